@@ -1,0 +1,24 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# The floors of the house as libraries. A room links only what stands below it, and its sources see the toolkit only when
+# the room is declared as one with windows.
+
+# Floors 0 to 2: the standard library alone, strict warnings.
+function(velmoriax_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${name} PUBLIC ${ROOM_USES})
+  target_compile_options(${name} PRIVATE -Wall -Wextra -Wconversion -Wshadow $<$<BOOL:${VELMORIAX_WERROR}>:-Werror>)
+  set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+endfunction()
+
+# Floors 3 and 4: with the toolkit.
+function(velmoriax_window_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${name} PUBLIC ${ROOM_USES})
+  target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS)
+  target_compile_options(${name} PRIVATE -Wall -Wextra $<$<BOOL:${VELMORIAX_WERROR}>:-Werror>)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+endfunction()

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/run_time_error.h"
+
+namespace velmoriax::platform {
+
+/// The one end of everything that the program does not survive.
+class FatalStop {
+public:
+    virtual ~FatalStop() = default;
+
+    /// Shows the error's message in a critical box, takes the tray icon away and ends the process with status 1.
+    [[noreturn]] virtual void stop(const base::RunTimeError& error) = 0;
+};
+
+} // namespace velmoriax::platform

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace velmoriax::platform {
+
+class PendingEvents {
+public:
+    virtual ~PendingEvents() = default;
+
+    /// Lets the events that wait run, timers and other windows included: a handler may be entered again inside.
+    virtual void letRun() = 0;
+};
+
+} // namespace velmoriax::platform

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/program_paths.h"
+
+#include "base/western_text.h"
+
+#include <algorithm>
+
+namespace velmoriax::platform {
+
+namespace {
+
+constexpr std::string_view optionsFile = "/opciones.ini";
+
+} // namespace
+
+std::string fileSystemPath(std::string_view programPath, std::string_view applicationDirectory) {
+    if (!programPath.starts_with(applicationDirectory)) return std::string(programPath);
+    std::string inside(programPath.substr(applicationDirectory.size()));
+    std::ranges::replace(inside, '\\', '/');
+    if (base::lowerWestern(inside) == optionsFile) inside = optionsFile;
+    const bool isRoot = applicationDirectory == "/";
+    return (isRoot ? std::string() : std::string(applicationDirectory)) + inside;
+}
+
+bool takesSubdirectory(std::string_view applicationDirectory) {
+    return applicationDirectory.size() > 3;
+}
+
+} // namespace velmoriax::platform

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/options_store.h"
+
+#include "base/western_text.h"
+#include "shell/option_values.h"
+#include "shell/profile_text.h"
+
+namespace velmoriax::shell {
+
+namespace {
+
+/// The platform's buffer of 255 characters, one of them the end mark.
+constexpr std::size_t longestValue = 254;
+
+using Status = platform::Files::Status;
+
+} // namespace
+
+std::string OptionsStore::fileName() const {
+    return files_.applicationDirectory() + "\\opciones.ini";
+}
+
+std::string OptionsStore::readProfileString(std::string_view lpAppName, std::string_view lpKeyName,
+                                            const std::string& lpFileName) const {
+    const auto content = files_.read(lpFileName);
+    if (content.status != Status::read) return {};
+    const std::string value = profileValue(content.bytes, base::toWestern(lpAppName), base::toWestern(lpKeyName));
+    return base::fromWestern(value.substr(0, longestValue));
+}
+
+int OptionsStore::writeProfileString(std::string_view lpAppName, std::string_view lpKeyName, std::string_view lpString,
+                                     const std::string& lpFileName) {
+    const auto content = files_.read(lpFileName);
+    if (content.status == Status::unreadable) return 0;
+    const std::string changed = withProfileValue(content.bytes, base::toWestern(lpAppName),
+                                                 base::toWestern(lpKeyName), base::toWestern(lpString));
+    return files_.replace(lpFileName, changed) ? 1 : 0;
+}
+
+std::string OptionsStore::option(std::string_view key) const {
+    return readProfileString(optionsSection, key, fileName());
+}
+
+void OptionsStore::setOption(std::string_view key, std::string_view value) {
+    writeProfileString(optionsSection, key, value, fileName());
+}
+
+void OptionsStore::readAtStart() {
+    holders.alertLevel = alertLevelOfCaption(leerNivelAlertas());
+    holders.minimizeTo = normalisedMinimize(leerMinimizar());
+    holders.tipocartas = normalisedDeck(leerTipocartas(), holders.tipocartas);
+}
+
+void OptionsStore::readAtModuleLoad(bool ofCardOfDay) {
+    holders.tooltips = orDefault(leerTooltips(), "ToolTips on");
+    holders.modoSilencioso = orDefault(leerModoSilencioso(), "nomudo");
+    if (ofCardOfDay) holders.muteCod = orDefault(leerMutecod(), "nomuted");
+    holders.estiloTooltips = leerEstiloTooltips() == "personal" ? "personal" : "windows xp";
+    if (ofCardOfDay) holders.hemisferio = leerHemisferio() == "Sur" ? "Sur" : "Norte";
+    holders.bgSound = orDefault(leerBgSound(), "NoBgSound");
+}
+
+const std::string& OptionsStore::readInto(std::string& holder, std::string_view key) {
+    holder = option(key);
+    return holder;
+}
+
+} // namespace velmoriax::shell

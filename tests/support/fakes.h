@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/date_value.h"
+#include "platform/autostart.h"
+#include "platform/clock.h"
+#include "platform/document_opener.h"
+#include "platform/files.h"
+#include "platform/media.h"
+#include "platform/message_boxes.h"
+#include "platform/notification.h"
+#include "platform/pending_events.h"
+#include "platform/program_paths.h"
+#include "platform/random_source.h"
+#include "platform/sounds.h"
+#include "platform/task_bar.h"
+#include "platform/time_zone.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+/// Stand-ins for the desktop that a test moves by hand.
+namespace velmoriax::test {
+
+class FakeClock : public platform::Clock {
+public:
+    base::DateValue moment = base::dateValueOf({2026, 11, 15}, {12, 0, 0});
+    base::DateValue now() const override { return moment; }
+    void set(base::CivilDate date, base::CivilTime time = {}) { moment = base::dateValueOf(date, time); }
+};
+
+class FakeZone : public platform::TimeZone {
+public:
+    platform::ZoneInfo info{platform::ZoneInfo::State::standard, 0, 0};
+    platform::ZoneInfo current() const override { return info; }
+};
+
+/// Files in memory, under the paths of the file system.
+class FakeFiles : public platform::Files {
+public:
+    std::string directory = "/home/ann/velmoriax";
+    std::map<std::string, std::string> contents; ///< by file-system path
+    std::set<std::string> unreadable;
+    bool readOnly = false;
+    bool temporaryFolderMissing = false;
+    bool temporaryNameFails = false;
+    int temporaryCount = 0;
+
+    /// A file of the application directory by its literal, such as "\\bio.dat".
+    std::string& at(const std::string& literal) { return contents[native(directory + literal)]; }
+    bool has(const std::string& literal) const { return contents.contains(native(directory + literal)); }
+
+    std::string applicationDirectory() const override { return directory; }
+    Content read(const std::string& path) const override {
+        if (unreadable.contains(native(path))) return {Status::unreadable, {}};
+        const auto found = contents.find(native(path));
+        return found == contents.end() ? Content{} : Content{Status::read, found->second};
+    }
+    bool exists(const std::string& path) const override { return contents.contains(native(path)); }
+    bool replace(const std::string& path, const std::string& bytes) override {
+        if (readOnly) return false;
+        contents[native(path)] = bytes;
+        return true;
+    }
+    bool append(const std::string& path, const std::string& bytes) override {
+        if (readOnly) return false;
+        contents[native(path)] += bytes;
+        return true;
+    }
+    bool remove(const std::string& path) override { return !readOnly && contents.erase(native(path)) > 0; }
+    bool rename(const std::string& from, const std::string& to) override {
+        const auto found = contents.find(native(from));
+        if (readOnly || found == contents.end()) return false;
+        contents[native(to)] = found->second;
+        if (native(to) != native(from)) contents.erase(native(from));
+        return true;
+    }
+    std::optional<std::string> temporaryFolder() const override {
+        return temporaryFolderMissing ? std::nullopt : std::optional<std::string>("/tmp");
+    }
+    std::optional<std::string> createTemporaryFile(const std::string& folder, const std::string& prefix) override {
+        if (temporaryNameFails) return std::nullopt;
+        const std::string path = folder + "/" + prefix + std::to_string(++temporaryCount);
+        contents[path] = "";
+        return path;
+    }
+
+private:
+    std::string native(const std::string& path) const { return platform::fileSystemPath(path, directory); }
+};
+
+class FakeSounds : public platform::Sounds {
+public:
+    std::vector<std::string> played;
+    void playWav(const std::string& name) override { played.push_back(name); }
+};
+
+class FakeOpener : public platform::DocumentOpener {
+public:
+    std::vector<std::string> opened;
+    bool open(const std::string& target) override {
+        opened.push_back(target);
+        return true;
+    }
+};
+
+/// Records the boxes and answers from what the test laid ready; with nothing ready, No and cancel.
+class FakeBoxes : public platform::MessageBoxes {
+public:
+    struct Shown {
+        platform::BoxIcon icon;
+        std::string text;
+        std::string title;
+        bool operator==(const Shown&) const = default;
+    };
+    std::vector<Shown> shown;
+    std::vector<std::string> questions;
+    std::deque<bool> yesNoAnswers;
+    std::deque<std::optional<std::string>> textAnswers;
+    std::deque<std::optional<std::string>> fileAnswers;
+    std::function<void()> whileOpen; ///< runs while a box stands
+
+    void show(platform::BoxIcon icon, const std::string& text, const std::string& title) override {
+        shown.push_back({icon, text, title});
+        if (whileOpen) whileOpen();
+    }
+    bool askYesNo(const std::string& text, const std::string&) override {
+        questions.push_back(text);
+        return take(yesNoAnswers).value_or(false);
+    }
+    std::optional<std::string> askText(const std::string& prompt, const std::string&) override {
+        questions.push_back(prompt);
+        return take(textAnswers).value_or(std::nullopt);
+    }
+    std::optional<std::string> askFile(const std::string& title, const std::string&, const std::string&) override {
+        questions.push_back(title);
+        return take(fileAnswers).value_or(std::nullopt);
+    }
+
+private:
+    template<typename Answer>
+    static std::optional<Answer> take(std::deque<Answer>& answers) {
+        if (answers.empty()) return std::nullopt;
+        Answer first = answers.front();
+        answers.pop_front();
+        return first;
+    }
+};
+
+class FakeNotification : public platform::Notification {
+public:
+    std::vector<std::string> texts;
+    bool open = false;
+    bool opens = true; ///< whether a slide ends with the window standing
+    void slideUp(const std::string& text) override {
+        texts.push_back(text);
+        open = opens;
+    }
+    bool isOpen() const override { return open; }
+};
+
+class FakeRandom : public platform::RandomSource {
+public:
+    std::deque<float> numbers; ///< handed out in order; 0 when none is left
+    int seeds = 0;
+    void seedFromClock() override { ++seeds; }
+    float uniform() override {
+        if (numbers.empty()) return 0;
+        const float first = numbers.front();
+        numbers.pop_front();
+        return first;
+    }
+};
+
+class FakeEvents : public platform::PendingEvents {
+public:
+    int runs = 0;
+    std::function<void()> whatRuns;
+    void letRun() override {
+        ++runs;
+        if (whatRuns) whatRuns();
+    }
+};
+
+class FakeTaskBar : public platform::TaskBar {
+public:
+    std::optional<platform::TaskBarPosition> where;
+    std::optional<platform::TaskBarPosition> position() const override { return where; }
+};
+
+class FakeAutostart : public platform::Autostart {
+public:
+    std::set<std::string> entries;
+    int writes = 0;
+    bool write(const std::string& name) override {
+        ++writes;
+        entries.insert(name);
+        return true;
+    }
+    bool erase(const std::string& name) override { return entries.erase(name) > 0; }
+};
+
+} // namespace velmoriax::test
