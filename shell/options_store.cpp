@@ -32,8 +32,8 @@ int OptionsStore::writeProfileString(std::string_view lpAppName, std::string_vie
                                      const std::string& lpFileName) {
     const auto content = files_.read(lpFileName);
     if (content.status == Status::unreadable) return 0;
-    const std::string changed = withProfileValue(content.bytes, base::toWestern(lpAppName),
-                                                 base::toWestern(lpKeyName), base::toWestern(lpString));
+    const std::string changed = withProfileValue(content.bytes, base::toWestern(lpAppName), base::toWestern(lpKeyName),
+                                                 base::toWestern(lpString));
     return files_.replace(lpFileName, changed) ? 1 : 0;
 }
 

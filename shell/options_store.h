@@ -63,8 +63,8 @@ struct OptionHolders {
     std::string tipocartas; ///< the deck in use; empty when the file names an unknown one
 };
 
-/// Access to the options file and the holders. Texts are UTF-8 here and Windows-1252 in the file. Nothing is reported: an
-/// unreadable file reads as empty, a write that fails leaves the file as it was.
+/// Access to the options file and the holders. Texts are UTF-8 here and Windows-1252 in the file. Nothing is reported:
+/// an unreadable file reads as empty, a write that fails leaves the file as it was.
 class OptionsStore {
 public:
     explicit OptionsStore(platform::Files& files) : files_(files) {}

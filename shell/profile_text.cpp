@@ -22,8 +22,8 @@ bool sameName(std::string_view a, std::string_view b) {
 }
 
 std::string_view withoutQuotes(std::string_view value) {
-    const bool quoted = value.size() >= 2 && value.front() == value.back() &&
-                        (value.front() == '"' || value.front() == '\'');
+    const bool quoted =
+        value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
     return quoted ? value.substr(1, value.size() - 2) : value;
 }
 

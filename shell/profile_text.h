@@ -11,8 +11,8 @@ namespace velmoriax::shell {
 /// The value of a key: blanks around it and one pair of equal quotes are dropped. Empty when the key is missing.
 std::string profileValue(std::string_view file, std::string_view section, std::string_view key);
 
-/// The file with that one line changed or added; every other byte stays. A missing section is added at the end. Line ends
-/// are the file's own, CR LF for a new one. A value is cut at its first line end.
+/// The file with that one line changed or added; every other byte stays. A missing section is added at the end. Line
+/// ends are the file's own, CR LF for a new one. A value is cut at its first line end.
 std::string withProfileValue(std::string_view file, std::string_view section, std::string_view key,
                              std::string_view value);
 

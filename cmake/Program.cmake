@@ -1,0 +1,18 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# The executable, and build/app/: the complete program folder, with the supplied data beside the executable.
+
+add_executable(Velmoriax shell/main.cpp shell/windows/icons.qrc)
+set_target_properties(Velmoriax PROPERTIES AUTORCC ON RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/app")
+target_compile_definitions(Velmoriax PRIVATE VELMORIAX_VERSION="${PROJECT_VERSION}")
+target_link_libraries(Velmoriax PRIVATE velmoriax_biorhythm_windows velmoriax_tarot_windows)
+
+# Supplied data are copied when they are newer; the files that the program makes there itself are never touched. The
+# defaults of the profile files are made by the program at its first start, so they are left out.
+set(VELMORIAX_DATA_FOLDERS imagenes imagenes2 imagenes3 amenores textos mtextos lunagif signos sigtxt fechas-db)
+set(VELMORIAX_DATA_FILES boop.wav Trumpet.wav Url.wav "Are You Lonesome Tonight.mid")
+
+add_custom_target(program_folder ALL
+  COMMAND "${CMAKE_COMMAND}" "-DFROM=${PROJECT_SOURCE_DIR}/data" "-DTO=${PROJECT_BINARY_DIR}/app"
+          "-DFOLDERS=${VELMORIAX_DATA_FOLDERS}" "-DFILES=${VELMORIAX_DATA_FILES}"
+          -P "${PROJECT_SOURCE_DIR}/cmake/CopyData.cmake"
+  VERBATIM COMMENT "Putting the supplied data beside the program")

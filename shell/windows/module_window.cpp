@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/windows/module_window.h"
+
+#include "shell/windows/picture_box.h"
+#include "shell/windows/secondary_window.h"
+#include "shell/windows/window_registry.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QTimer>
+
+namespace velmoriax::shell {
+
+namespace {
+
+QString text(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+} // namespace
+
+ModuleWindow::ModuleWindow(Process& process, Module module) :
+    process_(process), module_(module), tray_(process, *this, iconMenu_) {
+    setObjectName(text(windowNameOf(module)));
+}
+
+void ModuleWindow::load() {
+    record().shell.viewLoading = true;
+    beforeOptions();
+    record().options.readAtModuleLoad(module_ == Module::cardOfDay);
+    const bool tooltipsOff = record().options.holders.tooltips == "ToolTips off";
+    if (!isRefresh()) tray_.AddIconToSystray(tooltipsOff ? programName : std::string_view{});
+    ownLoad();
+    decideShowing();
+    record().shell.viewLoading = false;
+}
+
+void ModuleWindow::decideShowing() {
+    if (isRefresh()) return showNormalState();
+    unloadForReal_ = false;
+    const std::string startMinimized = record().options.leerIniciarMinimizado();
+    if (!startsHidden(module_, startMinimized)) return showNormalState();
+    hide();
+    // A window that no tray can bring back is shown after all, as soon as that is known.
+    auto& tray = desktop().tray;
+    const auto showIfUnreachable = [this, &tray] {
+        if (!isVisible() && !tray.reachable()) showNormalState();
+    };
+    if (tray.decided())
+        QTimer::singleShot(0, this, showIfUnreachable);
+    else
+        connect(&tray, &desktop::DesktopTray::waitEnded, this, showIfUnreachable);
+}
+
+void ModuleWindow::handOverTo(Module target) {
+    tray_.RemoveIconFromSystray();
+    process_.windows.touch(target, process_).showNormalState();
+    unloadForReal_ = true;
+    unload();
+}
+
+void ModuleWindow::showNormalState() {
+    setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
+    show();
+    raise();
+    activateWindow();
+}
+
+void ModuleWindow::hideToTray() {
+    if (desktop().tray.reachable())
+        hide();
+    else
+        showMinimized();
+    onHidden();
+}
+
+void ModuleWindow::unload() {
+    if (!unloadForReal_) return hideToTray();
+    const bool soundOn = record().options.holders.bgSound == "SiBgSound";
+    if (!record().shell.closingAll && soundOn) desktop().sounds.playWav("boop.wav");
+    unloadForReal_ = false;
+    onUnload();
+    hide();
+    process_.windows.release(*this);
+}
+
+void ModuleWindow::unloadAtExit() {
+    unloadForReal_ = true;
+    unload();
+}
+
+void ModuleWindow::UnloadAllForms() {
+    tray_.RemoveIconFromSystray();
+    record().shell.closingAll = true;
+    process_.windows.unloadAll();
+    QCoreApplication::exit(0);
+}
+
+void ModuleWindow::closeEvent(QCloseEvent* event) {
+    // An ignored close event would hold up the end of the session: it is accepted, and the window stays alive, hidden.
+    // Without a tray the window goes to the taskbar instead, and only then the event is refused.
+    const bool canHide = desktop().tray.reachable() || qApp->isSavingSession();
+    event->setAccepted(canHide);
+    unload();
+}
+
+void ModuleWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    const bool minimisedNow = event->type() == QEvent::WindowStateChange && isMinimized();
+    // The window manager is still at work on the window inside this event.
+    if (minimisedNow) QTimer::singleShot(0, this, [this] { minimised(); });
+}
+
+void ModuleWindow::minimised() {
+    if (!isMinimized()) return;
+    const bool toSystray = record().options.holders.minimizeTo == "systray";
+    if (toSystray && desktop().tray.reachable()) hide();
+    onMinimised(toSystray);
+}
+
+void ModuleWindow::run(Command command, Module target, std::string_view name) {
+    switch (command) {
+    case Command::goTo:
+        return handOverTo(target);
+    case Command::hide:
+        return hideToTray();
+    case Command::options:
+        return process_.windows.touch("FrmOptions", process_).showNormalState();
+    case Command::about:
+        return process_.windows.touch("frmAbout", process_).showNormalState();
+    case Command::help:
+        desktop().opener.open(desktop().files.applicationDirectory() + "/Velmoriax.html");
+        return;
+    case Command::exit:
+        return UnloadAllForms();
+    case Command::own:
+        return ownCommand(name);
+    case Command::submenu:
+    case Command::separator:
+        return;
+    }
+}
+
+void ModuleWindow::ownCommand(std::string_view) {}
+
+void ModuleWindow::buildNavigation() {
+    const ModuleNavigation& navigation = navigationOf(module_);
+    for (const ButtonRow& row : navigation.buttons) connectButton(row);
+    addEntries(&iconMenu_, navigation.iconMenu);
+    for (const Menu& table : navigation.mainMenus) {
+        QMenu* menu = menuBar()->addMenu(text(table.caption));
+        menu->setObjectName(text(table.name));
+        addEntries(menu, table);
+    }
+}
+
+void ModuleWindow::connectButton(const ButtonRow& row) {
+    const auto act = [this, row] { run(row.command, row.target, row.name); };
+    if (auto* button = findChild<QAbstractButton*>(text(row.name)))
+        connect(button, &QAbstractButton::clicked, this, act);
+    else if (auto* picture = findChild<PictureBox*>(text(row.name)))
+        connect(picture, &PictureBox::clicked, this, act);
+}
+
+void ModuleWindow::addEntries(QMenu* menu, const Menu& table) {
+    QMenu* submenu = nullptr;
+    for (const MenuEntry& entry : table.entries) {
+        QMenu* parent = entry.depth > 0 && submenu ? submenu : menu;
+        if (entry.command == Command::separator) {
+            parent->addSeparator();
+            continue;
+        }
+        if (entry.command == Command::submenu) {
+            submenu = parent->addMenu(text(entry.caption));
+            submenu->setObjectName(text(entry.name));
+            continue;
+        }
+        QAction* action = parent->addAction(text(entry.caption));
+        action->setObjectName(text(entry.name));
+        action->setCheckable(entry.checkable);
+        connect(action, &QAction::triggered, this, [this, entry] { run(entry.command, entry.target, entry.name); });
+        actions_.emplace(entry.name, action);
+    }
+}
+
+QAction* ModuleWindow::menuAction(std::string_view name) const {
+    const auto found = actions_.find(name);
+    return found == actions_.end() ? nullptr : found->second;
+}
+
+} // namespace velmoriax::shell

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/windows/picture_box.h"
+
+#include "base/run_time_error.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace velmoriax::shell {
+
+QImage loadPicture(const platform::Files& files, const std::string& path) {
+    using Code = base::RunTimeError::Code;
+    const auto content = files.read(path);
+    if (content.status != platform::Files::Status::read) throw base::RunTimeError(Code::fileNotFound, path);
+    const QImage picture = QImage::fromData(QByteArray::fromStdString(content.bytes));
+    if (picture.isNull()) throw base::RunTimeError(Code::invalidPicture, path);
+    return picture;
+}
+
+PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
+    setMouseTracking(true);
+    setMinimumSize(24, 24);
+}
+
+void PictureBox::setPicture(const QImage& picture) {
+    picture_ = picture;
+    scaled_ = {};
+    updateGeometry();
+    update();
+}
+
+void PictureBox::setTip(const QString& tip) {
+    setToolTip(tip);
+    setAccessibleName(tip);
+}
+
+void PictureBox::setCornerRadius(double shareOfWidth) {
+    cornerShare_ = shareOfWidth;
+    scaled_ = {};
+    update();
+}
+
+void PictureBox::setClickable(bool clickable) {
+    clickable_ = clickable;
+    setFocusPolicy(clickable ? Qt::StrongFocus : Qt::NoFocus);
+    setCursor(clickable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+QSize PictureBox::sizeHint() const {
+    return picture_.isNull() ? QSize(64, 64) : picture_.size();
+}
+
+QRect PictureBox::pictureRect() const {
+    const QSize size = picture_.size().scaled(this->size(), Qt::KeepAspectRatio);
+    return {QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size};
+}
+
+const QPixmap& PictureBox::scaledPicture() {
+    const double ratio = devicePixelRatioF();
+    const QSize target = (QSizeF(pictureRect().size()) * ratio).toSize();
+    if (scaled_.size() == target && scaledRatio_ == ratio) return scaled_;
+    QImage drawn(target, QImage::Format_ARGB32_Premultiplied);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const double radius = cornerShare_ * target.width();
+    QPainterPath outline;
+    outline.addRoundedRect(QRectF(QPointF(), QSizeF(target)), radius, radius);
+    painter.setPen(Qt::NoPen);
+    const QImage fitted = picture_.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    painter.fillPath(outline, QBrush(fitted));
+    painter.end();
+    scaled_ = QPixmap::fromImage(drawn);
+    scaled_.setDevicePixelRatio(ratio);
+    scaledRatio_ = ratio;
+    return scaled_;
+}
+
+void PictureBox::paintEvent(QPaintEvent*) {
+    if (picture_.isNull()) return;
+    QPainter painter(this);
+    const QRect place = pictureRect();
+    painter.drawPixmap(place.topLeft(), scaledPicture());
+    if (!hasFocus()) return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    const double radius = cornerShare_ * place.width();
+    painter.drawRoundedRect(QRectF(place).adjusted(1, 1, -1, -1), radius, radius);
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* event) {
+    pressedInside_ = event->button() == Qt::LeftButton;
+    if (pressedInside_) Q_EMIT pressed();
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !pressedInside_) return;
+    pressedInside_ = false;
+    Q_EMIT released();
+    if (rect().contains(event->position().toPoint())) Q_EMIT clicked();
+}
+
+void PictureBox::mouseMoveEvent(QMouseEvent* event) {
+    Q_EMIT mouseMoved(event->position().toPoint());
+}
+
+void PictureBox::keyPressEvent(QKeyEvent* event) {
+    const bool activates =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!clickable_ || !activates) return QWidget::keyPressEvent(event);
+    if (!event->isAutoRepeat()) Q_EMIT pressed();
+}
+
+void PictureBox::keyReleaseEvent(QKeyEvent* event) {
+    const bool activates =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!clickable_ || !activates) return QWidget::keyReleaseEvent(event);
+    if (event->isAutoRepeat()) return;
+    Q_EMIT released();
+    Q_EMIT clicked();
+}
+
+} // namespace velmoriax::shell

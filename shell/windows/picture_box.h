@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/files.h"
+
+#include <QImage>
+#include <QPixmap>
+#include <QWidget>
+
+namespace velmoriax::shell {
+
+/// Reads a picture of the program. Throws RunTimeError File not found or Invalid picture, naming the file.
+QImage loadPicture(const platform::Files& files, const std::string& path);
+
+/// A picture that is never stretched: it takes the largest place of its own proportions and is drawn at the screen's
+/// pixel ratio. It can be clicked, by keyboard too, and carries a name for those who cannot see it.
+class PictureBox : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit PictureBox(QWidget* parent = nullptr);
+
+    void setPicture(const QImage& picture);
+    const QImage& picture() const { return picture_; }
+
+    /// The tip of the picture, which is its accessible name as well.
+    void setTip(const QString& tip);
+
+    /// Rounds the corners by a share of the width: 0.045 for a card.
+    void setCornerRadius(double shareOfWidth);
+
+    /// A picture that answers clicks takes the keyboard focus and shows a hand.
+    void setClickable(bool clickable);
+
+    QSize sizeHint() const override;
+    bool hasHeightForWidth() const override { return false; }
+
+    /// Where the picture itself stands within the box.
+    QRect pictureRect() const;
+
+Q_SIGNALS:
+    void clicked();
+    void pressed();
+    void released();
+    void mouseMoved(QPoint position);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+private:
+    const QPixmap& scaledPicture();
+
+    QImage picture_;
+    QPixmap scaled_;
+    double scaledRatio_ = 0;
+    double cornerShare_ = 0;
+    bool clickable_ = false;
+    bool pressedInside_ = false;
+};
+
+} // namespace velmoriax::shell

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/windows/secondary_window.h"
+
+#include "shell/windows/window_registry.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+
+namespace velmoriax::shell {
+
+SecondaryWindow::SecondaryWindow(Process& process, Qt::WindowFlags flags) :
+    QWidget(nullptr, flags), process_(process) {}
+
+void SecondaryWindow::unload() {
+    if (unloaded_) return;
+    unloaded_ = true;
+    hide();
+    onUnload();
+    process_.windows.release(*this);
+}
+
+void SecondaryWindow::showNormalState() {
+    setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
+    show();
+    raise();
+    activateWindow();
+}
+
+void SecondaryWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    unload();
+}
+
+void SecondaryWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape) return QWidget::keyPressEvent(event);
+    close();
+}
+
+} // namespace velmoriax::shell

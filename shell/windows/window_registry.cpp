@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/windows/window_registry.h"
+
+#include "shell/windows/module_window.h"
+#include "shell/windows/secondary_window.h"
+
+#include <algorithm>
+
+namespace velmoriax::shell {
+
+WindowRegistry::WindowRegistry() = default;
+
+WindowRegistry::~WindowRegistry() {
+    for (const auto& [name, window] : loadedSecondaries_) delete window;
+    for (ModuleWindow* window : loadedModules_) delete window;
+}
+
+void WindowRegistry::addModule(Module module, ModuleFactory factory) {
+    moduleFactories_[module] = std::move(factory);
+}
+
+void WindowRegistry::addSecondary(const std::string& name, SecondaryFactory factory) {
+    secondaryFactories_[name] = std::move(factory);
+}
+
+ModuleWindow& WindowRegistry::touch(Module module, Process& process) {
+    const auto found = std::ranges::find(loadedModules_, module, &ModuleWindow::module);
+    if (found != loadedModules_.end()) return **found;
+    ModuleWindow* window = moduleFactories_.at(module)(process);
+    loadedModules_.push_back(window);
+    window->load();
+    return *window;
+}
+
+SecondaryWindow& WindowRegistry::touch(const std::string& name, Process& process) {
+    if (SecondaryWindow* window = loaded(name)) return *window;
+    SecondaryWindow* window = secondaryFactories_.at(name)(process);
+    loadedSecondaries_[name] = window;
+    window->load();
+    return *window;
+}
+
+SecondaryWindow* WindowRegistry::loaded(const std::string& name) const {
+    const auto found = loadedSecondaries_.find(name);
+    return found == loadedSecondaries_.end() ? nullptr : found->second;
+}
+
+void WindowRegistry::unload(const std::string& name) {
+    if (SecondaryWindow* window = loaded(name)) window->unload();
+}
+
+ModuleWindow* WindowRegistry::loadedModule() const {
+    return loadedModules_.empty() ? nullptr : loadedModules_.back();
+}
+
+void WindowRegistry::release(ModuleWindow& window) {
+    std::erase(loadedModules_, &window);
+    window.deleteLater();
+}
+
+void WindowRegistry::release(SecondaryWindow& window) {
+    std::erase_if(loadedSecondaries_, [&](const auto& entry) { return entry.second == &window; });
+    window.deleteLater();
+}
+
+void WindowRegistry::unloadAll() {
+    const auto modulesNow = loadedModules_;
+    for (ModuleWindow* window : modulesNow) window->unloadAtExit();
+    const auto secondariesNow = loadedSecondaries_;
+    for (const auto& [name, window] : secondariesNow) window->unload();
+}
+
+} // namespace velmoriax::shell

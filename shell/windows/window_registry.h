@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/modules.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace velmoriax::shell {
+
+class ModuleWindow;
+class SecondaryWindow;
+struct Process;
+
+/// The windows of the process by name. A window is a single instance that comes into being at its first touch; rooms
+/// know one another's windows by name alone.
+class WindowRegistry {
+public:
+    using ModuleFactory = std::function<ModuleWindow*(Process&)>;
+    using SecondaryFactory = std::function<SecondaryWindow*(Process&)>;
+
+    WindowRegistry();
+    ~WindowRegistry();
+
+    void addModule(Module module, ModuleFactory factory);
+    void addSecondary(const std::string& name, SecondaryFactory factory);
+
+    /// The module's window; the first touch creates it and runs its load routine.
+    ModuleWindow& touch(Module module, Process& process);
+
+    /// The secondary window of that name, created and loaded at its first touch.
+    SecondaryWindow& touch(const std::string& name, Process& process);
+
+    /// The secondary window if it is loaded.
+    SecondaryWindow* loaded(const std::string& name) const;
+
+    /// Unloads a secondary window; does nothing when it is not loaded.
+    void unload(const std::string& name);
+
+    /// The module that is loaded; the latest one while a hand-over is under way. Null before the first.
+    ModuleWindow* loadedModule() const;
+    const std::vector<ModuleWindow*>& loadedModules() const { return loadedModules_; }
+
+    /// Takes a module off the list and destroys it when control is back in the event loop.
+    void release(ModuleWindow& window);
+    void release(SecondaryWindow& window);
+
+    /// Unloads everything, in the order of loading.
+    void unloadAll();
+
+private:
+    std::map<Module, ModuleFactory> moduleFactories_;
+    std::map<std::string, SecondaryFactory> secondaryFactories_;
+    std::vector<ModuleWindow*> loadedModules_;
+    std::map<std::string, SecondaryWindow*> loadedSecondaries_;
+};
+
+} // namespace velmoriax::shell
