@@ -6,12 +6,14 @@
 #include "platform/document_opener.h"
 #include "platform/files.h"
 #include "platform/message_boxes.h"
+#include "platform/notification.h"
 #include "platform/pending_events.h"
 #include "platform/qt/desktop_tray.h"
 #include "platform/random_source.h"
 #include "platform/sounds.h"
 #include "platform/time_zone.h"
 #include "shell/process_record.h"
+#include "shell/tip_source.h"
 
 namespace velmoriax::shell {
 
@@ -36,6 +38,8 @@ struct Process {
     ProcessRecord& record;
     DesktopServices& desktop;
     WindowRegistry& windows;
+    TipSource* tips = nullptr;                      ///< set by the hub when it comes into being
+    platform::Notification* notification = nullptr; ///< set by the entry
 };
 
 } // namespace velmoriax::shell
