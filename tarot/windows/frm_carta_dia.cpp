@@ -5,6 +5,7 @@
 #include "shell/window_position.h"
 #include "shell/windows/look.h"
 #include "shell/windows/window_place.h"
+#include "tarot/windows/card_description.h"
 #include "ui_frm_carta_dia.h"
 
 namespace velmoriax::tarot {
@@ -13,7 +14,9 @@ FrmCartaDia::FrmCartaDia(shell::Process& process) :
     ModuleWindow(process, shell::Module::cardOfDay), ui_(std::make_unique<Ui::FrmCartaDia>()) {
     ui_->setupUi(this);
     shell::look::asTitle(*ui_->LblDate);
-    ui_->ImgCartadia->setCornerRadius(0.045);
+    ui_->ImgCartadia->setCornerRadius(cardCornerShare);
+    ui_->ImgCartadia->setClickable(true);
+    connect(ui_->ImgCartadia, &shell::PictureBox::clicked, this, &FrmCartaDia::describeCard);
     buildNavigation();
 }
 
@@ -40,6 +43,11 @@ void FrmCartaDia::showCardOfToday() {
     dayCard_ = reading.card;
     ui_->ImgCartadia->setPicture(shell::loadPicture(desktop().files, reading.picturePath));
     ui_->ImgCartadia->setTip(QString::fromStdString(reading.name));
+}
+
+void FrmCartaDia::describeCard() {
+    record().cards.currentCard = dayCard_;
+    showCardDescription(record().cards, desktop().boxes);
 }
 
 void FrmCartaDia::onUnload() {

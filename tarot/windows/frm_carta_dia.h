@@ -26,6 +26,7 @@ protected:
 
 private:
     void showCardOfToday();
+    void describeCard();
 
     std::unique_ptr<Ui::FrmCartaDia> ui_;
     std::int16_t dayCard_ = 0;

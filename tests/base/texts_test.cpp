@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/date_text.h"
+#include "base/number_text.h"
+#include "base/percent.h"
+#include "base/rounding.h"
+#include "base/run_time_error.h"
+#include "base/western_text.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace velmoriax::base {
+namespace {
+
+TEST(Rounding, TiesGoToTheEvenNeighbour) {
+    EXPECT_EQ(nearest(0.5), 0);
+    EXPECT_EQ(nearest(1.5), 2);
+    EXPECT_EQ(nearest(-2.5), -2);
+    EXPECT_EQ(nearestInt16(32767.4), 32767);
+    for (const double outside : {32767.5, -32768.6, std::numeric_limits<double>::quiet_NaN()})
+        EXPECT_THROW(nearestInt16(outside), RunTimeError) << outside;
+}
+
+TEST(NumberText, FixedDecimalsRoundTheExactExpansionAwayFromZero) {
+    struct Row {
+        double value;
+        int decimals;
+        const char* text;
+        const char* reason;
+    };
+    const Row rows[] = {
+        {0.125, 2, "0.13", "exactly on the half"},
+        {-0.125, 2, "-0.13", "and away from zero below it"},
+        {1.005, 2, "1.00", "below the half in binary, though it prints as 1.005"},
+        {2.5, 0, "3", "no even neighbour here"},
+        {-0.004, 2, "0.00", "never a negative zero"},
+        {-97.531, 2, "-97.53", "a percentage"},
+        {0.5, 7, "0.5000000", "padding"},
+        {1e15, 2, "1000000000000000.00", "large"},
+        {4503599627370497.5, 0, "4503599627370498", "the largest halves"},
+    };
+    for (const Row& row : rows) EXPECT_EQ(formatFixed(row.value, row.decimals), row.text) << row.reason;
+}
+
+TEST(NumberText, WholeOrEmptyIsEmptyForWhatRoundsToZero) {
+    EXPECT_EQ(formatWholeOrEmpty(0.4999), "");
+    EXPECT_EQ(formatWholeOrEmpty(-0.4), "");
+    EXPECT_EQ(formatWholeOrEmpty(0.5), "1");
+    EXPECT_EQ(formatWholeOrEmpty(99.5), "100");
+}
+
+TEST(NumberText, PlainNumbersReadBack) {
+    for (const float value : {0.0F, 75.3F, 0.1F, -4.35F, 100.0F, 49.995F, 1234567.0F, 480000.0F})
+        EXPECT_EQ(std::stof(plainNumberText(value)), value);
+    EXPECT_EQ(plainNumberText(75.3F), "75.3");
+    EXPECT_EQ(plainNumberText(480000.0F), "480000");
+}
+
+TEST(NumberText, LeadingNumberTakesWhatStandsInFront) {
+    EXPECT_EQ(leadingNumber("  -12.5abc"), -12.5);
+    EXPECT_EQ(leadingNumber("+7"), 7);
+    EXPECT_EQ(leadingNumber("1.2.3"), 1.2);
+    for (const char* none : {"", "   ", "abc", "-", "."}) EXPECT_EQ(leadingNumber(none), 0) << none;
+    EXPECT_EQ(wholeNumber(" 12 "), 12);
+    for (const char* none : {"", "1 2", "12a", "99999999999999999999"}) EXPECT_FALSE(wholeNumber(none)) << none;
+}
+
+TEST(DateText, FormsAreFixed) {
+    EXPECT_EQ(shortDateText({2026, 1, 5}), "1/5/2026");
+    EXPECT_EQ(timeText(CivilTime{0, 0, 1}), "0:00:01");
+    EXPECT_EQ(timeText(-0.25), "6:00:00");
+    EXPECT_EQ(generalText(46341.5), "11/15/2026 12:00:00");
+    EXPECT_EQ(longDateText({2026, 11, 15}), "Sunday, November 15, 2026");
+    EXPECT_EQ(longDateTextWithoutComma({2026, 11, 15}), "Sunday, November 15 2026");
+    EXPECT_EQ(weekdayRuler(5), "Jupiter");
+    EXPECT_EQ(monthNameEnglish(0), "");
+    EXPECT_EQ(monthNameEnglish(13), "");
+    EXPECT_EQ(monthOfEnglishName("march"), std::nullopt) << "month names are matched exactly";
+}
+
+TEST(DateText, ReadsWhatItWritesAndNothingElse) {
+    for (const DateValue value : {46341.5, 38518.0, 2.25, 36531.7597222222})
+        EXPECT_NEAR(readDateTime(generalText(value)).value(), value, 0.5 / 86400);
+    EXPECT_EQ(readDateTime(" 3/20/2005  12:33:00 "), dateValueOf({2005, 3, 20}, {12, 33, 0}));
+    EXPECT_EQ(readDateTime("7:45"), dateValueOf(CivilTime{7, 45, 0}));
+    for (const char* bad : {"", "3/20", "13/1/2005", "2/29/2001", "3/20/2005 24:00:00", "3/20/2005 x", "a/b/c",
+                            "1/2/3/4", "3/20/2005 12:33:00 1", "-3/20/2005"})
+        EXPECT_FALSE(readDateTime(bad)) << bad;
+}
+
+TEST(WesternText, EveryByteComesBack) {
+    std::string all;
+    for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+    EXPECT_EQ(toWestern(fromWestern(all)), all);
+}
+
+TEST(WesternText, ComposesAccentsAndMarksWhatItLacks) {
+    EXPECT_EQ(toWestern("Mari\xCC\x81"), toWestern("Mar\xC3\xAD")) << "decomposed i with acute";
+    EXPECT_EQ(toWestern("n\xCC\x83"), "\xF1");
+    EXPECT_EQ(toWestern("€"), "\x80");
+    EXPECT_EQ(toWestern("→😀"), "??");
+    EXPECT_EQ(toWestern("a\xFF\xC3"), "a??") << "broken UTF-8";
+    EXPECT_EQ(toWestern("\xCC\x81"), "?") << "an accent alone";
+    EXPECT_EQ(lowerWestern(toWestern("ÁÑŠ×ß")), toWestern("áñš×ß"));
+}
+
+TEST(PercentOf, ItsOddAnswers) {
+    EXPECT_EQ(percentOf(25, 50), 50.0F);
+    EXPECT_EQ(percentOf(51, 50), -1.0F) << "a part above the whole";
+    EXPECT_EQ(percentOf(0, 50), 0.0F);
+    EXPECT_EQ(percentOf(0, -1), -1.0F) << "the first test wins";
+    EXPECT_EQ(percentOf(-1, 0), 0.0F) << "no finite result";
+}
+
+TEST(RunTimeError, SpeaksThePlatformsWords) {
+    const RunTimeError error(RunTimeError::Code::fileNotFound, "bio.dat");
+    EXPECT_EQ(error.message(), "Run-time error '53': File not found\nbio.dat");
+}
+
+} // namespace
+} // namespace velmoriax::base

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/modules.h"
+#include "shell/navigation.h"
+#include "shell/window_position.h"
+#include "support/fakes.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace velmoriax::shell {
+namespace {
+
+std::set<Module> targetsOf(std::span<const MenuEntry> entries) {
+    std::set<Module> targets;
+    for (const MenuEntry& entry : entries)
+        if (entry.command == Command::goTo) targets.insert(entry.target);
+    return targets;
+}
+
+TEST(Navigation, EveryPopupLeadsToTheFiveOthersAndOut) {
+    for (const ModuleRow& row : modules) {
+        const auto& entries = navigationOf(row.module).iconMenu.entries;
+        const std::set<Module> targets = targetsOf(entries);
+        EXPECT_EQ(targets.size(), 5U) << row.windowName;
+        EXPECT_FALSE(targets.contains(row.module)) << row.windowName;
+        EXPECT_EQ(entries.back().command, Command::exit) << row.windowName;
+        EXPECT_EQ(entries.back().caption, "Exit");
+    }
+}
+
+TEST(Navigation, EachWindowLeadsToTheFiveOthersByItsOwnControls) {
+    for (const ModuleRow& row : modules) {
+        const ModuleNavigation& navigation = navigationOf(row.module);
+        std::set<Module> targets;
+        for (const ButtonRow& button : navigation.buttons)
+            if (button.command == Command::goTo) targets.insert(button.target);
+        for (const Menu& menu : navigation.mainMenus) targets.merge(targetsOf(menu.entries));
+        EXPECT_EQ(targets.size(), 5U) << row.windowName;
+        EXPECT_FALSE(targets.contains(row.module)) << row.windowName;
+    }
+}
+
+TEST(Modules, TheFirstModuleByItsExactText) {
+    for (const ModuleRow& row : modules) EXPECT_EQ(firstModule(row.initialText), row.module);
+    for (const char* unknown : {"", "oracle", "The Card of Day", "Numbers "})
+        EXPECT_EQ(firstModule(unknown), Module::cardOfDay) << unknown;
+}
+
+TEST(Modules, OnlyTheCardOfDayKnowsNoVerdadero) {
+    for (const ModuleRow& row : modules) {
+        EXPECT_TRUE(startsHidden(row.module, "True"));
+        EXPECT_EQ(startsHidden(row.module, "Verdadero"), row.module != Module::cardOfDay) << row.windowName;
+        for (const char* shown : {"", "true", "False"}) EXPECT_FALSE(startsHidden(row.module, shown));
+    }
+}
+
+TEST(WindowPosition, FourZerosKeepTheDesignedPlaceAndOneValueDoesNot) {
+    test::FakeFiles files;
+    OptionsStore options(files);
+    EXPECT_FALSE(storedPlace(options));
+    files.at("\\opciones.ini") = "[Posici\xF3n]\r\nVelmoriaxcod_Left=0\r\nVelmoriaxcod_Top=5.5twips\r\n";
+    EXPECT_EQ(storedPlace(options), (WindowPlace{0, 6, 0, 0}));
+    files.at("\\opciones.ini") = "[Posici\xF3n]\r\nVelmoriaxcod_Left=1e9\r\nVelmoriaxcod_Width=99999999999999\r\n";
+    EXPECT_EQ(storedPlace(options), (WindowPlace{1, 0, 2147483647, 0})) << "leading digits; beyond 32 bits to the end";
+}
+
+TEST(WindowPosition, WhatIsStoredComesBack) {
+    test::FakeFiles files;
+    OptionsStore options(files);
+    const WindowPlace place{-150, 57600, 11400, 8400};
+    storePlace(options, place);
+    EXPECT_EQ(storedPlace(options), place);
+}
+
+} // namespace
+} // namespace velmoriax::shell
