@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/background_agent.h"
+
+#include "base/date_text.h"
+#include "base/number_text.h"
+
+namespace velmoriax::shell {
+
+namespace {
+
+constexpr std::string_view lastSecondOfDay = "23:59:59";
+constexpr std::string_view midnight = "0:00:00";
+constexpr int notificationSeconds = 30;
+constexpr int halfMinutesBetweenAlerts = 60;
+
+base::DateValue timeOfDay(base::DateValue moment) {
+    return base::dateValueOf(base::civilTimeOf(moment));
+}
+
+/// Counts the seconds of a notification that stands; true at the thirtieth. Any other state begins anew.
+bool notificationTimesOut(AgentRecord& agent, bool notifOpen) {
+    if (notifOpen && ++agent.notifTicks != notificationSeconds) return false;
+    agent.notifTicks = 0;
+    return notifOpen;
+}
+
+} // namespace
+
+void startUptime(AgentRecord& agent, base::DateValue now) {
+    agent.upStart = timeOfDay(now);
+    agent.upDays = 0;
+}
+
+bool timeUpTick(AgentRecord& agent, base::DateValue now, bool notifOpen) {
+    const base::DateValue time = timeOfDay(now);
+    agent.LblTime = base::timeText(time);
+    agent.LblUptime = base::timeText(agent.upAccum + (time - agent.upStart));
+    agent.LblDias = std::to_string(agent.upDays) + "d ";
+    if (base::trimmed(agent.LblTime) == lastSecondOfDay) agent.upAccum += time - agent.upStart;
+    if (base::trimmed(agent.LblTime) == midnight) agent.upStart = 0;
+    if (base::trimmed(agent.LblUptime) == lastSecondOfDay) {
+        ++agent.upDays;
+        agent.upAccum = 0;
+        agent.upStart = time;
+    }
+    return notificationTimesOut(agent, notifOpen);
+}
+
+bool timerBioTick(AgentRecord& agent) {
+    if (++agent.alertTicks < halfMinutesBetweenAlerts) return false;
+    agent.alertTicks = 0;
+    return true;
+}
+
+void tipcartadia(AgentRecord& agent, base::CivilDate today, std::string_view applicationDirectory,
+                 std::string_view tipocartas, tarot::CardState& cards) {
+    if (agent.cardDate == today) return;
+    agent.cardName = tarot::sumcartdia(base::shortDateText(today), applicationDirectory, tipocartas, cards).name;
+    agent.cardDate = today;
+    agent.tipCard = "Card of Day: " + agent.cardName;
+}
+
+} // namespace velmoriax::shell
