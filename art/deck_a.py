@@ -48,7 +48,7 @@ def frame_a(num, title):
         with F.at(x, 1003, 1, 0, f):
             for a in (-28, 0, 28): F.fill(poly(ribbon([(-6, 0), pol(0, 0, 14, a), pol(0, 0, 30, a*1.5)], lambda t: 11*math.sin(math.pi*min(1, t*.9+.1))+1)), 'gold', 2)
             F.fill(circ(-4, 0, 5), 'red', 2)
-    size = 42 if len(title) < 14 else 36
+    size = 42 if len(title) < 14 else 36 if len(title) < 17 else 31
     F.text(300, 1003+size*.33, title, size, FONT, k='gtext', sp=3)
     # numeral medallion
     w = 30+13*len(num)

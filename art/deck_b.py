@@ -10,7 +10,7 @@ def frame_b(num, title):
     F.stroke(rect(36, 36, 528, 1008), 7); F.stroke([(36, 98), (300, 99), (564, 97)], 5.5); F.stroke([(36, 954), (300, 953), (564, 955)], 5.5)
     F.stroke(rect(25, 25, 550, 1030), 2.6)
     if num: F.text(300, 84, num, 46, FONT, sp=4)
-    if title: F.text(300, 1016, title, 46 if len(title) < 15 else 40, FONT, sp=2)
+    if title: F.text(300, 1016, title, 46 if len(title) < 15 else 40 if len(title) < 17 else 35, FONT, sp=2)
     return F
 
 def render(scene, num, title, seed=3, sc=2, field=True):
