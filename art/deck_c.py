@@ -54,9 +54,9 @@ def frame_c(num, heb, gl):
         F.fill(circ(300+d*206, 1016, 21), 'deep', 2.4); F.stroke(circ(300+d*206, 1016, 17.5), 1); glyph(F, gl, 300+d*206, 1016, .22, 17)
     return F
 
-def render(m, seed=3, sc=2):
+def render(m, seed=3, sc=2, frame=None):
     rng = np.random.default_rng(seed); sh = (int(1080*sc), int(600*sc)); yy, xx = np.mgrid[0:sh[0], 0:sh[1]].astype(np.float32)
-    S = Scene(seed); m.draw(S); F = frame_c(m.NUM, m.HEB, m.GLYPH)
+    S = Scene(seed); m.draw(S); F = (frame or frame_c)(m.NUM, m.HEB, m.GLYPH)
     box = rect(38, 38, 524, 1004, 14)
     def lay(pen):
         l = Layer(); l.b.append(f'<clipPath id="bx"><path d="{box}"/></clipPath><g clip-path="url(#bx)">'); l.put(S.items, pen); l.b.append('</g>'); l.put(F.items, pen); return raster(l.svg(), sc)

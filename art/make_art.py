@@ -64,6 +64,11 @@ def minor(suit, index, scale):
     return m and deck_b.render(m.draw, m.num, m.title, seed=seed_of(suit) + 31 * index, sc=scale)
 
 
+def card_back(name, scale):
+    import back
+    return getattr(back, name)(scale)
+
+
 def minor_stem(suit, index):
     return f'{index}{suit}' if index <= 10 else f'{COURTS[index - 11]}-{suit}'
 
@@ -76,7 +81,19 @@ def jobs():
         out += [(kind, directory, stem, f, (i + 1,)) for i, stem in enumerate(MAJORS)]
     for suit in SUITS:
         out += [('minors', 'amenores', minor_stem(suit, i), minor, (suit, i)) for i in range(1, 15)]
+    out += [('backs', 'amenores', 'reverso', card_back, ('suit_back',)),
+            ('backs', 'amenores', 'reverso2', card_back, ('major_back',))]
     return out
+
+
+def make_small_pictures(kind):
+    """The pictures that are made by the set: the moons, the signs, the windows' own."""
+    import moon, zodiac, window_pictures
+    makers = {'moon': lambda: moon.make(DATA), 'zodiac': lambda: zodiac.make(DATA), 'windows': window_pictures.make}
+    for name in makers if kind is None else [kind]:
+        if name in makers:
+            makers[name]()
+            print(name, flush=True)
 
 
 def run(job, preview):
@@ -98,6 +115,10 @@ def main():
     p.add_argument('--preview')
     p.add_argument('-j', type=int, default=1)
     a = p.parse_args()
+    if not a.only and not a.preview:
+        make_small_pictures(a.kind)
+        if a.kind in ('moon', 'zodiac', 'windows'):
+            return
     chosen = [j for j in jobs() if (not a.kind or j[0] == a.kind) and (not a.only or j[2] in a.only)]
     if not chosen:
         sys.exit('nothing of that name')

@@ -193,7 +193,7 @@ constexpr std::array bioGo{
     go("MnuCdia2", "...Card of Day", toCard), go("MnuOtroDia2", "...Another Day", toOtherDay),
     go("MnuNum2", "...Numbers", toNumbers),   entry("Mnubye", "Exit", Command::exit),
 };
-constexpr std::array bioMenus{Menu{"MnuGo", "Go to...", bioGo}};
+constexpr std::array bioMenus{Menu{"MnuGo", "&Go to...", bioGo}};
 constexpr std::array bioIconMenu{
     entry("MnuAbout", "About", Command::about),
     entry("MnuOpIco", "Options", Command::options),

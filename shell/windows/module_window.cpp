@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QScreen>
 #include <QTimer>
 
 namespace velmoriax::shell {
@@ -17,6 +18,13 @@ namespace {
 
 QString text(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+/// Where a window stands that keeps no place of its own: the middle of the screen, wherever the last module stood.
+void centre(QWidget& window) {
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    const QSize size = window.size().boundedTo(area.size());
+    window.move(area.center() - QPoint(size.width() / 2, size.height() / 2));
 }
 
 } // namespace
@@ -28,6 +36,7 @@ ModuleWindow::ModuleWindow(Process& process, Module module) :
 
 void ModuleWindow::load() {
     record().shell.viewLoading = true;
+    if (!isRefresh()) centre(*this);
     beforeOptions();
     record().options.readAtModuleLoad(module_ == Module::cardOfDay);
     const bool tooltipsOff = record().options.holders.tooltips == "ToolTips off";

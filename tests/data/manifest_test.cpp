@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Every name that the program can ask for: is it there, does it open, is it what it says?
+#include "base/date_text.h"
+#include "base/western_text.h"
+#include "tarot/card_catalogue.h"
+
+#include <QImage>
+#include <QImageReader>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <numbers>
+#include <set>
+#include <sstream>
+
+namespace velmoriax {
+namespace {
+
+namespace fs = std::filesystem;
+using tarot::Suit;
+
+const fs::path data = VELMORIAX_DATA_DIR;
+constexpr std::array allSuits{Suit::batons, Suit::cups, Suit::swords, Suit::golds};
+constexpr std::array signFiles{"Aries", "Tauro",    "Geminis",   "Cancer",      "Leo",     "Virgo",
+                               "Libra", "Escorpio", "Sagitario", "Capricornio", "Acuario", "Piscis"};
+
+std::string bytesOf(const fs::path& path) {
+    std::ostringstream all;
+    all << std::ifstream(path, std::ios::binary).rdbuf();
+    return all.str();
+}
+
+void expectPicture(const fs::path& path, const char* format, QSize size) {
+    QImageReader reader(QString::fromStdString(path.string()));
+    EXPECT_EQ(reader.format(), format) << path;
+    EXPECT_EQ(reader.size(), size) << path;
+    EXPECT_FALSE(reader.read().isNull()) << path << ": " << reader.errorString().toStdString();
+}
+
+std::size_t wordsOf(const std::string& text) {
+    std::istringstream words(text);
+    std::size_t count = 0;
+    for (std::string word; words >> word;) ++count;
+    return count;
+}
+
+/// A text of the program: Windows-1252, CR LF alone, as long as a page that one reads at a glance.
+void expectText(const fs::path& path, std::size_t fewest, std::size_t most, std::set<std::string>& seen) {
+    const std::string text = bytesOf(path);
+    EXPECT_GE(wordsOf(text), fewest) << path;
+    EXPECT_LE(wordsOf(text), most) << path;
+    EXPECT_TRUE(seen.insert(text).second) << path << " is a copy of another text";
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        EXPECT_FALSE(byte < 0x20 && byte != '\r' && byte != '\n') << path << " at " << i;
+        EXPECT_EQ(text[i] == '\n', i > 0 && text[i - 1] == '\r') << path << " at " << i;
+        EXPECT_FALSE(byte == 0x81 || byte == 0x8D || byte == 0x8F || byte == 0x90 || byte == 0x9D) << path;
+    }
+}
+
+std::string lower(std::string text) {
+    for (char& c : text) c = static_cast<char>(std::tolower(c));
+    return text;
+}
+
+TEST(Manifest, MajorArcanaInThreeDecks) {
+    std::set<std::string> seen;
+    for (const char* deck : {"imagenes", "imagenes2", "imagenes3"})
+        for (int card = 1; card <= tarot::majorCards; ++card) {
+            const fs::path path = data / deck / tarot::majorPictureFile(card);
+            expectPicture(path, "jpeg", {400, 720});
+            EXPECT_TRUE(seen.insert(bytesOf(path)).second) << path << " is a copy of another card";
+        }
+}
+
+TEST(Manifest, MinorArcanaAndTheBacks) {
+    std::set<std::string> seen;
+    for (const Suit suit : allSuits)
+        for (int index = 1; index <= tarot::suitCards; ++index) {
+            const fs::path path = data / "amenores" / tarot::minorPictureFile(suit, index);
+            expectPicture(path, "jpeg", {400, 720});
+            EXPECT_TRUE(seen.insert(bytesOf(path)).second) << path << " is a copy of another card";
+        }
+    for (const char* back : {"reverso.jpg", "reverso2.jpg"})
+        expectPicture(data / "amenores" / back, "jpeg", {400, 720});
+}
+
+TEST(Manifest, TheBacksLookTheSameTurned) {
+    for (const char* name : {"reverso.jpg", "reverso2.jpg"}) {
+        const QImage back(QString::fromStdString((data / "amenores" / name).string()));
+        const QImage turned = back.mirrored(true, true);
+        double difference = 0;
+        for (int y = 0; y < back.height(); ++y)
+            for (int x = 0; x < back.width(); ++x)
+                difference += std::abs(qGray(back.pixel(x, y)) - qGray(turned.pixel(x, y)));
+        EXPECT_LT(difference / (back.width() * back.height()), 4.0) << name << ", in levels of 256 a pixel";
+    }
+}
+
+TEST(Manifest, TextsOfCardsAndSigns) {
+    std::set<std::string> seen;
+    for (int card = 1; card <= tarot::majorCards; ++card)
+        expectText(data / "textos" / tarot::majorTextFile(card), 110, 230, seen);
+    for (const Suit suit : allSuits)
+        for (int index = 1; index <= tarot::suitCards; ++index)
+            expectText(data / "mtextos" / tarot::minorTextFile(suit, index), 55, 135, seen);
+    for (const char* sign : signFiles) expectText(data / "sigtxt" / (lower(sign) + ".txt"), 110, 200, seen);
+}
+
+TEST(Manifest, MoonsAreLitByTheirNumberAndOnTheRightSide) {
+    for (int number = 0; number <= 30; ++number) {
+        const fs::path path = data / "lunagif" / ("moon" + std::to_string(number) + ".gif");
+        expectPicture(path, "gif", {160, 160});
+        const QImage moon(QString::fromStdString(path.string()));
+        int litLeft = 0;
+        int litRight = 0;
+        constexpr double radius = 77;
+        for (int y = 0; y < 160; ++y)
+            for (int x = 0; x < 160; ++x) {
+                const bool inside = std::hypot(x - 79.5, y - 79.5) < radius;
+                if (inside && qGray(moon.pixel(x, y)) > 30) ++(x < 80 ? litLeft : litRight);
+            }
+        const double share = (litLeft + litRight) / (std::numbers::pi * radius * radius);
+        EXPECT_NEAR(share, (1 - std::cos(12 * number * std::numbers::pi / 180)) / 2, 0.04) << path;
+        if (number > 1 && number < 14) EXPECT_GT(litRight, litLeft) << path << ": a waxing moon";
+        if (number > 16 && number < 29) EXPECT_GT(litLeft, litRight) << path << ": a waning moon";
+    }
+}
+
+TEST(Manifest, SignPicturesAreSmallAndTransparent) {
+    for (const char* sign : signFiles) {
+        const fs::path path = data / "signos" / (std::string(sign) + "_sm.gif");
+        expectPicture(path, "gif", {64, 64});
+        EXPECT_EQ(qAlpha(QImage(QString::fromStdString(path.string())).pixel(0, 0)), 0) << path;
+    }
+}
+
+/// One period of a sign table.
+struct Period {
+    double start;
+    double end;
+    std::size_t sign;
+};
+
+std::vector<Period> periodsOf(std::size_t sign) {
+    std::vector<Period> periods;
+    std::ifstream lines(data / "fechas-db" / (lower(signFiles[sign]) + ".txt"));
+    for (std::string line; std::getline(lines, line);) {
+        EXPECT_EQ(line.back(), '\r');
+        line.pop_back();
+        const std::size_t dash = line.find('-');
+        const auto start = base::readDateTime(line.substr(0, dash));
+        const auto end = base::readDateTime(line.substr(dash + 1));
+        EXPECT_TRUE(start && end) << signFiles[sign] << ": " << line;
+        if (start && end) periods.push_back({base::linearDays(*start), base::linearDays(*end), sign});
+    }
+    return periods;
+}
+
+TEST(Manifest, SignTablesCoverTwoCenturiesWithoutAGap) {
+    std::vector<Period> all;
+    for (std::size_t sign = 0; sign < signFiles.size(); ++sign) {
+        const auto periods = periodsOf(sign);
+        all.insert(all.end(), periods.begin(), periods.end());
+    }
+    std::ranges::sort(all, {}, &Period::start);
+    ASSERT_GT(all.size(), 2400U);
+    EXPECT_LT(all.front().start, base::dayNumber({1900, 1, 1}));
+    EXPECT_GT(all.back().end, base::dayNumber({2101, 1, 1}));
+    for (std::size_t i = 1; i < all.size(); ++i) {
+        ASSERT_EQ(all[i].start, all[i - 1].end) << "after period " << i;
+        ASSERT_EQ(all[i].sign, (all[i - 1].sign + 1) % signFiles.size());
+        ASSERT_NEAR(all[i].end - all[i].start, 30.4, 1.2);
+    }
+}
+
+TEST(Manifest, SignTablesMeetPublishedInstants) {
+    struct Known {
+        std::size_t sign;
+        base::CivilMoment moment;
+    };
+    // March equinoxes in universal time, from the tables of Meeus; the tables cut the fraction of the second.
+    const Known known[] = {
+        {0, {{2000, 3, 20}, {7, 35, 15}}}, {0, {{2004, 3, 20}, {6, 48, 37}}}, {0, {{2005, 3, 20}, {12, 33, 24}}}};
+    for (const Known& row : known) {
+        const double expected = base::linearDays(base::dateValueOf(row.moment.date, row.moment.time));
+        double nearest = 1;
+        for (const Period& period : periodsOf(row.sign)) nearest = std::min(nearest, std::abs(period.start - expected));
+        EXPECT_LE(nearest * 86400, 10.0) << row.moment.date.year << ", in seconds";
+    }
+}
+
+/// The samples of a wave file with 16 bits, and the rate it says.
+std::vector<int> samplesOf(const std::string& wave, int& rate, int& channels) {
+    const auto number = [&](std::size_t at, int size) {
+        unsigned value = 0;
+        for (int i = size - 1; i >= 0; --i)
+            value = value << 8 | static_cast<unsigned char>(wave[at + static_cast<std::size_t>(i)]);
+        return static_cast<int>(value);
+    };
+    channels = number(22, 2);
+    rate = number(24, 4);
+    EXPECT_EQ(number(34, 2), 16);
+    const std::size_t begin = wave.find("data") + 8;
+    std::vector<int> samples;
+    for (std::size_t at = begin; at + 1 < wave.size(); at += 2)
+        samples.push_back(static_cast<std::int16_t>(number(at, 2)));
+    return samples;
+}
+
+TEST(Manifest, SoundsAreShortAndEndInSilence) {
+    const std::pair<const char*, double> sounds[] = {{"boop.wav", 0.3}, {"Trumpet.wav", 3.0}, {"Url.wav", 1.0}};
+    for (const auto& [name, longest] : sounds) {
+        int rate = 0;
+        int channels = 0;
+        const std::vector<int> samples = samplesOf(bytesOf(data / name), rate, channels);
+        ASSERT_FALSE(samples.empty()) << name;
+        EXPECT_EQ(rate, 44100) << name;
+        EXPECT_LE(static_cast<double>(samples.size()) / rate / channels, longest) << name;
+        const int peak = std::abs(*std::ranges::max_element(samples, {}, [](int sample) { return std::abs(sample); }));
+        EXPECT_NEAR(20 * std::log10(peak / 32768.0), -6.0, 1.0) << name;
+        EXPECT_LT(std::abs(samples.front()), 100) << name;
+        EXPECT_LT(std::abs(samples.back()), 100) << name;
+    }
+    EXPECT_TRUE(bytesOf(data / "Are You Lonesome Tonight.mid").starts_with("MThd"));
+}
+
+TEST(Manifest, TheProfileFilesBeginWithNothingSet) {
+    EXPECT_EQ(bytesOf(data / "bio.dat"), "1,1,1900\r\n");
+    EXPECT_EQ(bytesOf(data / "horabio.dat"), "12,0\r\n");
+    EXPECT_EQ(bytesOf(data / "biofinal.dat"), "0,0,0\r\n");
+    EXPECT_TRUE(fs::is_directory(data / "logs"));
+}
+
+} // namespace
+} // namespace velmoriax
