@@ -6,8 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace velmoriax::sky {
 namespace {
 
@@ -40,16 +38,7 @@ TEST(MoonIllumination, GivesTheKnownValues) {
         EXPECT_NEAR(state.moonAgeDegrees, row.degrees, 5e-5);
     }
     moonIllumination(36531.7597222222, state);
-    EXPECT_NEAR(state.moonIlluminatedFraction, 1.05e-6, 5e-9);
-}
-
-TEST(MoonIllumination, SolvesKeplersEquation) {
-    for (double degrees = -720; degrees <= 720; degrees += 7) {
-        const double eccentric = keplerEccentricAnomaly(degrees, 0.016718);
-        EXPECT_NEAR(eccentric - 0.016718 * std::sin(eccentric), degreesToRadians(degrees), 1e-12);
-        EXPECT_NEAR(std::remainder(fixAngle(degrees) - degrees, 360), 0, 1e-9);
-        EXPECT_TRUE(fixAngle(degrees) >= 0 && fixAngle(degrees) < 360);
-    }
+    EXPECT_NEAR(state.moonIlluminatedFraction, 1.05e-6, 5e-9) << "seconds before a new moon";
 }
 
 // Two models without anything in common but the calendar.
@@ -66,34 +55,35 @@ TEST_F(MoonTextsTest, IlluminationAgreesWithThePhases) {
 
 TEST_F(MoonTextsTest, WindowTellsTheMomentAndTheComingPhases) {
     const MoonDetails shown = details(november2026);
-    EXPECT_TRUE(shown.labelDetall.starts_with("Illumination: 0.3147")) << shown.labelDetall;
-    EXPECT_NE(shown.labelDetall.find("    (0 <----> 1)\nAge of Moon: 6.206"), std::string::npos) << shown.labelDetall;
-    EXPECT_TRUE(shown.labelDetall.ends_with(" days"));
+    EXPECT_EQ(shown.labelDetall, "Illumination: 0.3147348    (0 <----> 1)\nAge of Moon: 6.2061225 days");
     EXPECT_EQ(shown.labelInfo, "Next Full Moon: 11/24/2026 14:54:40 UT\n"
                                "Next New Moon: 12/9/2026 0:53:00 UT\n"
                                "Next First Quarter: 11/17/2026 11:48:59 UT\n"
                                "Next Last Quarter: 12/1/2026 6:09:51 UT");
-    EXPECT_EQ(shown.labelResum, "Moon Waxing Crescent: 31% from Full");
     EXPECT_EQ(shown.moonPercentText, "31%");
     EXPECT_EQ(shown.labelAd, "(Click on the Moon to see next)");
 }
 
 TEST_F(MoonTextsTest, WindowListsThePhasesBeforeYesterday) {
     const MoonDetails shown = details(46336.0, true); // half a day after the new moon of November 9, 2026
-    EXPECT_TRUE(shown.labelInfo.starts_with("Previous Full Moon: 10/26/2026 4:1")) << shown.labelInfo;
-    EXPECT_NE(shown.labelInfo.find("\nPrevious New Moon: 10/10/2026 15:5"), std::string::npos) << shown.labelInfo;
-    EXPECT_NE(shown.labelInfo.find("\nPrevious First Quarter: 10/18/2026 16:1"), std::string::npos) << shown.labelInfo;
-    EXPECT_NE(shown.labelInfo.find("\nPrevious Last Quarter: 11/1/2026 20:2"), std::string::npos) << shown.labelInfo;
+    EXPECT_EQ(shown.labelInfo, "Previous Full Moon: 10/26/2026 4:12:57 UT\n"
+                               "Previous New Moon: 10/10/2026 15:51:10 UT\n"
+                               "Previous First Quarter: 10/18/2026 16:13:45 UT\n"
+                               "Previous Last Quarter: 11/1/2026 20:29:36 UT");
     EXPECT_EQ(shown.labelAd, "(Click on the Moon to see previous)");
 }
 
-TEST_F(MoonTextsTest, RoundedPercentagesNameThePrincipalPhases) {
+TEST_F(MoonTextsTest, WindowDayAndTrayNameTheSameMoment) {
     struct Row {
         base::CivilDate date;
         const char *window, *dayTip, *trayTip;
     };
     for (const Row& row :
-         {Row{{2026, 11, 9}, "New Moon", "New Moon", "Moon Phase: NEW (=)"},
+         {Row{{2026, 11, 15},
+              "Moon Waxing Crescent: 31% from Full",
+              "Waxing Crescent: 31.47% of Full",
+              "Moon Phase(illum.): 31.47 % (>)"},
+          Row{{2026, 11, 9}, "New Moon", "New Moon", "Moon Phase: NEW (=)"},
           Row{{2026, 11, 17}, "First Quarter", "First Quarter", "Moon Phase(illum.): 50.22 % (>)"},
           Row{{2026, 11, 24}, "Full Moon", "Full Moon", "Moon Phase: FULL (=)"},
           Row{{2027, 2, 20}, "Full Moon", "Full Moon", "Moon Phase: FULL (=)"} /* still in the waxing half */,
@@ -103,6 +93,8 @@ TEST_F(MoonTextsTest, RoundedPercentagesNameThePrincipalPhases) {
         EXPECT_EQ(drawDateMoon(engine, row.date, state).tip, row.dayTip);
         EXPECT_EQ(lunatip(engine, noon, state), row.trayTip);
     }
+    EXPECT_EQ(drawDateMoon(engine, {2026, 11, 15}, state).pictureName, "moon6.gif");
+    EXPECT_EQ(drawDayMoon(engine, november2026, state), "moon6.gif");
 }
 
 // The half angle decides which way the Moon goes, the fraction what is said: the corners where both part company.
@@ -125,14 +117,6 @@ TEST_F(MoonTextsTest, SummariesAtTheCorners) {
         EXPECT_TRUE(tip.ends_with(row.dayTip)) << tip;
     }
     EXPECT_EQ(moonPhaseText(engine, november2026, 120, 0.7749).h, 23) << "the half angle takes the percentage";
-}
-
-TEST_F(MoonTextsTest, DaysAndTipsTakeTheMomentTheyAreGiven) {
-    EXPECT_EQ(lunatip(engine, november2026, state), "Moon Phase(illum.): 31.47 % (>)");
-    const DateMoon day = drawDateMoon(engine, {2026, 11, 15}, state);
-    EXPECT_EQ(day.tip, "Waxing Crescent: 31.47% of Full");
-    EXPECT_EQ(day.pictureName, "moon6.gif");
-    EXPECT_EQ(drawDayMoon(engine, november2026, state), "moon6.gif");
 }
 
 } // namespace

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/date_text.h"
 #include "base/run_time_error.h"
+#include "base/western_text.h"
 #include "sky/ingress_search.h"
 #include "sky/time_zone_shift.h"
 #include "sky/zodiac.h"
+#include "sky/zodiac_tables.h"
 #include "support/fakes.h"
 
 #include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
 
 namespace velmoriax::sky {
 namespace {
@@ -30,10 +35,11 @@ protected:
     SkyState state;
     SignSources sources{files, zone};
 
-    int signAt(base::CivilDate date, base::CivilTime time) const {
-        const auto stay = findSignStay(files, dateValueOf(date, time));
+    int signAt(DateValue moment) const {
+        const auto stay = findSignStay(files, moment);
         return stay ? stay->index : -1;
     }
+    int signAt(base::CivilDate date, base::CivilTime time) const { return signAt(dateValueOf(date, time)); }
     const SignReading& cardOfDay(base::CivilDate date, base::CivilTime time, std::string_view hemisferio = "Norte") {
         return signoZod(sources, dateValueOf(date, time), hemisferio, state);
     }
@@ -152,6 +158,28 @@ TEST(TimeZoneShift, UsesTheBiasOfTheStateAndNothingWhenUnknown) {
     zone.info.state = State::unknown;
     EXPECT_EQ(localToUniversal(moment, zone), 0);
     EXPECT_EQ(universalToLocal({2, 30, 0}, {2026, 7, 2}, zone), 0);
+}
+
+// The supplied tables against instants published to the minute: the sign is still the old one a minute and a half
+// before, and the new one as long after.
+TEST_F(ZodiacTest, SuppliedTablesBeginTheSeasonsAtThePublishedMinutes) {
+    for (const std::string_view sign : signFileNames) {
+        const std::string name = base::lowerWestern(sign) + ".txt";
+        std::ifstream table(VELMORIAX_DATA_DIR "/fechas-db/" + name, std::ios::binary);
+        files.at("\\fechas-db\\" + name).assign(std::istreambuf_iterator<char>(table), {});
+    }
+    struct Row {
+        base::CivilDate date;
+        base::CivilTime time;
+        int before, after;
+    };
+    for (const Row& row : {Row{{2005, 3, 20}, {12, 33, 0}, 11, 0}, Row{{2020, 3, 20}, {3, 50, 0}, 11, 0},
+                           Row{{2024, 6, 20}, {20, 51, 0}, 2, 3}, Row{{2026, 9, 23}, {0, 5, 0}, 5, 6},
+                           Row{{2017, 12, 21}, {16, 28, 0}, 8, 9}}) {
+        const DateValue published = dateValueOf(row.date, row.time);
+        EXPECT_EQ(signAt(base::addMinutes(published, -1.5)), row.before) << row.date.year;
+        EXPECT_EQ(signAt(base::addMinutes(published, 1.5)), row.after) << row.date.year;
+    }
 }
 
 } // namespace
