@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <vector>
 
 namespace velmoriax::base {
 
@@ -30,35 +29,40 @@ std::string twoDigits(int number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
-/// The unsigned numbers between single separators; empty when anything else stands there.
-std::vector<int> numbersBetween(std::string_view text, char separator) {
-    std::vector<int> numbers;
+/// Up to three unsigned numbers; 0 of them when a text holds anything else.
+struct Fields {
+    std::array<int, 3> values{};
+    std::size_t count = 0;
+};
+
+/// The numbers between single separators.
+Fields numbersBetween(std::string_view text, char separator) {
+    Fields fields;
     const char* at = text.data();
     const char* const end = at + text.size();
-    while (true) {
+    while (fields.count < fields.values.size()) {
         unsigned value = 0;
         const auto [next, error] = std::from_chars(at, end, value);
         if (error != std::errc{} || value > 9999) return {};
-        numbers.push_back(static_cast<int>(value));
-        if (next == end) return numbers;
+        fields.values[fields.count++] = static_cast<int>(value);
+        if (next == end) return fields;
         if (*next != separator) return {};
         at = next + 1;
     }
+    return {};
 }
 
 std::optional<CivilDate> readDate(std::string_view text) {
-    const std::vector<int> fields = numbersBetween(text, '/');
-    if (fields.size() != 3) return std::nullopt;
-    const CivilDate date{fields[2], fields[0], fields[1]};
-    return isValid(date) ? std::optional(date) : std::nullopt;
+    const auto [values, count] = numbersBetween(text, '/');
+    const CivilDate date{values[2], values[0], values[1]};
+    return count == 3 && isValid(date) ? std::optional(date) : std::nullopt;
 }
 
+/// The seconds may be missing: 0 stands for them.
 std::optional<CivilTime> readTime(std::string_view text) {
-    std::vector<int> fields = numbersBetween(text, ':');
-    if (fields.size() == 2) fields.push_back(0);
-    if (fields.size() != 3) return std::nullopt;
-    const CivilTime time{fields[0], fields[1], fields[2]};
-    return isValid(time) ? std::optional(time) : std::nullopt;
+    const auto [values, count] = numbersBetween(text, ':');
+    const CivilTime time{values[0], values[1], values[2]};
+    return count >= 2 && isValid(time) ? std::optional(time) : std::nullopt;
 }
 
 } // namespace

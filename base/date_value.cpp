@@ -99,6 +99,10 @@ DateValue fromLinearDays(double days) {
     return day < 0 ? day - time : day + time;
 }
 
+bool isBefore(DateValue a, DateValue b) {
+    return linearDays(a) < linearDays(b);
+}
+
 DateValue addMinutes(DateValue value, double minutes) {
     return fromLinearDays(linearDays(value) + minutes / 1440.0);
 }

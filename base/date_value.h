@@ -69,6 +69,9 @@ double linearDays(DateValue value);
 /// The inverse of `linearDays`.
 DateValue fromLinearDays(double days);
 
+/// The order in time. The plain comparison turns it around within a day before 1899-12-30.
+bool isBefore(DateValue a, DateValue b);
+
 /// The date value moved by minutes, across days and across the zero day alike.
 DateValue addMinutes(DateValue value, double minutes);
 

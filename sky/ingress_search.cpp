@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sky/ingress_search.h"
+
+#include "base/date_text.h"
+#include "base/western_text.h"
+#include "sky/zodiac_tables.h"
+
+#include <string>
+#include <string_view>
+
+namespace velmoriax::sky {
+
+namespace {
+
+/// Takes the next line off a table; empty at its end.
+std::string_view takeLine(std::string_view& table) {
+    const std::size_t feed = table.find('\n');
+    std::string_view line = table.substr(0, feed);
+    table.remove_prefix(feed == std::string_view::npos ? table.size() : feed + 1);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    return line;
+}
+
+void readDate(std::string_view text, base::DateValue& date) {
+    if (const auto read = base::readDateTime(text)) date = *read;
+}
+
+/// A line is cut at its first "-"; without one it holds a start alone.
+void readStay(std::string_view line, SignStay& stay) {
+    const std::size_t cut = line.find('-');
+    readDate(line.substr(0, cut), stay.start);
+    if (cut != std::string_view::npos) readDate(line.substr(cut + 1), stay.end);
+}
+
+/// True when a line of the table holds the moment; `stay` is then that line's.
+bool findInTable(std::string_view table, base::DateValue moment, SignStay& stay) {
+    for (std::string_view line = takeLine(table); !line.empty(); line = takeLine(table)) {
+        readStay(line, stay);
+        if (!base::isBefore(moment, stay.start) && !base::isBefore(stay.end, moment)) return true;
+    }
+    return false;
+}
+
+std::string tablePath(const platform::Files& files, std::string_view signFileName) {
+    return files.applicationDirectory() + "\\fechas-db\\" + base::lowerWestern(signFileName) + ".txt";
+}
+
+} // namespace
+
+std::optional<SignStay> findSignStay(const platform::Files& files, base::DateValue moment) {
+    SignStay stay;
+    for (const std::string_view name : signFileNames) {
+        if (findInTable(files.read(tablePath(files, name)).bytes, moment, stay)) return stay;
+        ++stay.index;
+    }
+    return std::nullopt;
+}
+
+} // namespace velmoriax::sky

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sky/moon_pictures.h"
+
+#include "base/rounding.h"
+#include "sky/moon_illumination.h"
+
+namespace velmoriax::sky {
+
+namespace {
+
+constexpr int stepsOfPicture = 6; ///< of two degrees each
+constexpr int lastStep = 180;
+
+std::string numbered(int picture) {
+    return "moon" + std::to_string(picture) + ".gif";
+}
+
+} // namespace
+
+std::string moonPictureName(float angle, MoonPictureRule rule) {
+    const int half = halfPhaseAngle(angle);
+    if (rule == MoonPictureRule::cardOfDay) return numbered(half / stepsOfPicture);
+    // Here a picture holds its upper edge, and the first one 0 as well, since the division cuts toward zero.
+    return half > lastStep ? std::string{} : numbered((half - 1) / stepsOfPicture);
+}
+
+std::int16_t halfPhaseAngle(float angle) {
+    return base::nearestInt16(angle / 2);
+}
+
+bool turnsMoonPicture(std::string_view hemisferio) {
+    return hemisferio == "Sur";
+}
+
+std::string drawDayMoon(const MoonEngine& engine, base::DateValue moment, SkyState& state) {
+    moonIllumination(moment, state);
+    return moonPictureName(engine.moonPhaseAngle(moment), MoonPictureRule::cardOfDay);
+}
+
+} // namespace velmoriax::sky

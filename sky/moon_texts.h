@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "sky/moon_engine.h"
+#include "sky/sky_state.h"
+
+#include <cstdint>
+#include <string>
+
+/// What the windows and the tray tip say about the Moon. Moments are universal time; `fraction` is the illuminated
+/// fraction of the same moment, 0 to 1. Lines are parted by a line feed.
+namespace velmoriax::sky {
+
+/// The summary between the principal phases.
+struct MoonSummary {
+    std::string text;            ///< such as "Waxing Crescent: 31% from Full"
+    std::string moonPercentText; ///< the percentage in it, such as "31%"
+    std::int16_t h = 0;          ///< the half angle; in the waning half the per cent that are missing to full
+};
+
+/// In the waxing half (h at most 90) the percentage is what is lit, in the waning half what is missing to full.
+MoonSummary moonPhaseText(const MoonEngine& engine, base::DateValue date, std::int16_t h, double fraction);
+
+/// The four labels of the moon details window.
+struct MoonDetails {
+    std::string labelDetall; ///< illumination and age
+    std::string labelInfo;   ///< the four next or previous phases
+    std::string labelResum;  ///< the summary line
+    std::string labelAd;     ///< names the list on view
+    std::string moonPercentText;
+};
+
+/// Reads the illumination that `moonIllumination` has left in the record for `moonMoment`.
+MoonDetails refreshMoonDetails(const MoonEngine& engine, base::DateValue moonMoment, bool showPrevious,
+                               const SkyState& state);
+
+/// The tip of the moon picture in Another Day between the principal phases.
+std::string moonDateTip(const MoonEngine& engine, base::DateValue moment, std::int16_t h, double fraction);
+
+/// The Moon of a day at noon, for Another Day.
+struct DateMoon {
+    std::string pictureName; ///< empty: the picture that stands is kept
+    std::string tip;
+};
+
+/// Noon of the day is taken as it is, without a conversion to universal time. Leaves its illumination in the record.
+DateMoon drawDateMoon(const MoonEngine& engine, base::CivilDate date, SkyState& state);
+
+/// The Moon's line of the tray tip, such as "Moon Phase(illum.): 31.47 % (>)". Leaves the illumination of the moment in
+/// the record.
+std::string lunatip(const MoonEngine& engine, base::DateValue moment, SkyState& state);
+
+} // namespace velmoriax::sky
