@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/date_value.h"
+#include "biorhythm/cycle_table.h"
+
+#include <cstdint>
+#include <string>
+
+namespace velmoriax::biorhythm {
+
+/// The record that the view, the tip, the gauge and the alerts share: whoever computed last decides what the next
+/// reader sees, so each reader computes first. The widths are the arithmetic's and show in the printed percentages.
+struct BioState {
+    /// The main profile's birth date; 1, 1, 1900 is the mark of none.
+    std::int16_t birthDay = 1;
+    std::int16_t birthMonth = 1;
+    std::int16_t birthYear = 1900;
+
+    /// The time of birth stays at midnight until a window loads it: the background agent never reads it.
+    std::int16_t birthHour = 0;
+    std::int16_t birthMinute = 0;
+
+    /// The target date of the remaining days.
+    std::int16_t finalDay = 0;
+    std::int16_t finalMonth = 0;
+    std::int16_t finalYear = 0;
+
+    std::string birthDateText;   ///< day/month/year without leading zeros
+    std::string readingDateText; ///< the same of the date of reading
+
+    std::int32_t wholeDays = 0;          ///< days between the two dates, less one
+    std::int16_t minutesLeftAtBirth = 0; ///< what was left of the day of birth
+    float livedAtMidnight = 0;           ///< age in days at the midnight that begins the date of reading
+    float lived = 0;                     ///< age in days at this moment
+
+    CycleValues cycle{};     ///< at `lived`
+    CycleValues cycleNext{}; ///< an hour later
+
+    std::string averageText; ///< in per cent, two decimals
+    std::string ratingText;  ///< the words for the average
+};
+
+/// False for the mark 1, 1, 1900.
+bool birthDateIsSet(const BioState& state);
+
+base::CivilMoment birthOf(const BioState& state);
+base::CivilDate finalDateOf(const BioState& state);
+
+void setBirthDate(BioState& state, base::CivilDate date);
+void setBirthTime(BioState& state, base::CivilTime time);
+void setFinalDate(BioState& state, base::CivilDate date);
+
+/// Day, "/", month, "/", year, without leading zeros.
+std::string dayMonthYearText(base::CivilDate date);
+
+/// Hour, ":" and two-digit minute, such as 7:05.
+std::string hourMinuteText(base::CivilTime time);
+
+} // namespace velmoriax::biorhythm

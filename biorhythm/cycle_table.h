@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+/// The four cycles and how they are called. Every table and array of this room stands in their order.
+namespace velmoriax::biorhythm {
+
+inline constexpr std::size_t physical = 0;
+inline constexpr std::size_t emotional = 1;
+inline constexpr std::size_t intellectual = 2;
+inline constexpr std::size_t intuition = 3;
+inline constexpr std::size_t cycleCount = 4;
+
+/// One sine a cycle, from -1 to 1.
+using CycleValues = std::array<float, cycleCount>;
+
+struct CycleFacts {
+    int period;                ///< in days
+    std::string_view lineWord; ///< in the lines of the alert, with colon and blank
+    std::string_view name;     ///< in the view, the chart and the compatibility
+};
+extern const std::array<CycleFacts, cycleCount> cycleTable;
+
+struct Colour {
+    std::uint8_t red;
+    std::uint8_t green;
+    std::uint8_t blue;
+    bool operator==(const Colour&) const = default;
+};
+inline constexpr Colour pureGreen{0, 255, 0};
+inline constexpr Colour pureRed{255, 0, 0};
+
+} // namespace velmoriax::biorhythm

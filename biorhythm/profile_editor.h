@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/date_value.h"
+#include "platform/files.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// What the editor of one record takes from a line of the list and puts back.
+namespace velmoriax::biorhythm {
+
+struct EditedProfile {
+    std::string name;
+    std::optional<base::CivilDate> date; ///< nothing when the line holds no date: the user is to choose one
+    base::CivilTime time;                ///< within the steppers' bounds, whatever stands in the line
+};
+
+/// Splits a line. The hour is the first two characters of the time field, or one before a colon; the minute is what
+/// stands behind it.
+EditedProfile editedProfile(std::string_view line);
+
+/// "Submit": the copy without the old record takes the list's place, the record goes to its end. The minute is written
+/// as a plain number, "7:5". Each step is tried whether or not the one before it came about.
+void submitProfile(platform::Files& files, const std::optional<std::string>& copyPath, std::string_view name,
+                   base::CivilDate date, base::CivilTime time);
+
+} // namespace velmoriax::biorhythm

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "biorhythm/profile_store.h"
+
+#include "base/date_text.h"
+#include "base/number_text.h"
+#include "base/run_time_error.h"
+#include "base/western_text.h"
+#include "biorhythm/field_text.h"
+
+#include <algorithm>
+
+namespace velmoriax::biorhythm {
+
+namespace {
+
+using Status = platform::Files::Status;
+
+constexpr std::string_view lineEnd = "\r\n";
+
+std::string listPath(const platform::Files& files) {
+    return files.applicationDirectory() + "\\perfiles.txt";
+}
+
+/// A line of the file in its bytes, and the bytes that end it; none behind the last line of a file without a line end.
+struct RawLine {
+    std::string_view text;
+    std::string_view end;
+};
+
+RawLine takeLine(std::string_view& bytes) {
+    const std::size_t length = std::min(bytes.find_first_of(lineEnd), bytes.size());
+    const std::string_view behind = bytes.substr(length);
+    const std::size_t endLength = behind.starts_with(lineEnd) ? 2 : behind.empty() ? 0 : 1;
+    const RawLine line{bytes.substr(0, length), behind.substr(0, endLength)};
+    bytes.remove_prefix(length + endLength);
+    return line;
+}
+
+std::vector<RawLine> rawLines(std::string_view bytes) {
+    std::vector<RawLine> lines;
+    while (!bytes.empty()) lines.push_back(takeLine(bytes));
+    return lines;
+}
+
+std::optional<base::CivilTime> profileTime(std::string_view timeText) {
+    const bool isTimeAlone = timeText.find('/') == std::string_view::npos;
+    const auto value = isTimeAlone ? base::readDateTime(timeText) : std::nullopt;
+    if (!value) return std::nullopt;
+    const base::CivilTime time = base::civilTimeOf(*value);
+    return base::CivilTime{time.hour, time.minute, 0};
+}
+
+std::optional<std::size_t> placeOf(const std::vector<std::string>& names, std::string_view name) {
+    const auto found = std::find(names.rbegin(), names.rend(), name);
+    if (found == names.rend()) return std::nullopt;
+    return static_cast<std::size_t>(names.rend() - found) - 1;
+}
+
+bool standsInFull(const platform::Files& files, std::string_view recordBytes) {
+    const std::string bytes = files.read(listPath(files)).bytes;
+    return std::ranges::any_of(rawLines(bytes), [&](const RawLine& line) { return line.text == recordBytes; });
+}
+
+/// A new temporary file's path; tells what failed and gives nothing when there is none.
+std::optional<std::string> temporaryFile(platform::Files& files, platform::MessageBoxes& boxes,
+                                         const RewriteMessages& messages) {
+    const auto folder = files.temporaryFolder();
+    const auto path = folder ? files.createTemporaryFile(*folder, "tmp") : std::nullopt;
+    if (!path) boxes.show(platform::BoxIcon::none, std::string(folder ? messages.nameFailure : messages.pathFailure));
+    return path;
+}
+
+std::string withoutLinesHolding(std::string_view bytes, std::string_view selected) {
+    std::string kept;
+    kept.reserve(bytes.size());
+    for (const auto& [text, end] : rawLines(bytes)) {
+        if (text.find(selected) != std::string_view::npos) continue;
+        kept += text;
+        kept += end.empty() ? lineEnd : end;
+    }
+    return kept;
+}
+
+} // namespace
+
+ProfileFields parseProfileLine(std::string_view line) {
+    const auto fields = fieldsOf(line, ',');
+    return {std::string(fields.front()), std::string(fieldAt(fields, 1)), std::string(fieldAt(fields, 2))};
+}
+
+std::optional<base::CivilDate> profileDate(std::string_view dateText) {
+    const auto parts = fieldsOf(dateText, '/');
+    const auto month = base::wholeNumber(monthNumberFromName(parts.front(), {}));
+    const auto day = base::wholeNumber(fieldAt(parts, 1));
+    const auto year = base::wholeNumber(fieldAt(parts, 2));
+    const auto isSmall = [](const std::optional<long>& number) { return number && *number > 0 && *number <= 9999; };
+    if (!month || !isSmall(day) || !isSmall(year)) return std::nullopt;
+    const base::CivilDate date{static_cast<int>(*year), static_cast<int>(*month), static_cast<int>(*day)};
+    return base::isValid(date) ? std::optional(date) : std::nullopt;
+}
+
+std::optional<base::CivilMoment> profileBirth(const ProfileFields& fields) {
+    const auto date = profileDate(fields.dateText);
+    const auto time = profileTime(fields.timeText);
+    if (!date || !time) return std::nullopt;
+    return base::CivilMoment{*date, *time};
+}
+
+std::string monthNumberFromName(std::string_view name, std::string_view previous) {
+    const auto month = base::monthOfEnglishName(name);
+    return month ? std::to_string(*month) : std::string(previous);
+}
+
+std::vector<std::string> profileLines(const platform::Files& files) {
+    const std::string bytes = files.read(listPath(files)).bytes;
+    std::vector<std::string> lines;
+    for (const RawLine& line : rawLines(bytes))
+        if (!line.text.empty()) lines.push_back(base::fromWestern(line.text));
+    return lines;
+}
+
+std::vector<std::string> profileNames(const platform::Files& files) {
+    std::vector<std::string> names = profileLines(files);
+    for (std::string& line : names) line.erase(std::min(line.find(','), line.size()));
+    return names;
+}
+
+std::optional<base::CivilMoment> findProfile(const platform::Files& files, std::string_view name) {
+    std::optional<base::CivilMoment> birth;
+    const std::string nameInFile = base::fromWestern(base::toWestern(name));
+    for (const std::string& line : profileLines(files)) {
+        const ProfileFields fields = parseProfileLine(line);
+        if (fields.name != nameInFile) continue;
+        if (const auto read = profileBirth(fields)) birth = read;
+    }
+    return birth;
+}
+
+std::optional<std::size_t> selectedAtLoad(const std::vector<std::string>& names, std::string_view storedName) {
+    if (!storedName.empty() || names.empty()) return placeOf(names, storedName);
+    return 0;
+}
+
+std::optional<std::size_t> selectedAfterEdit(const std::vector<std::string>& names, std::string_view storedName) {
+    if (names.empty()) return std::nullopt;
+    return placeOf(names, storedName).value_or(names.size() - 1);
+}
+
+void createProfileList(platform::Files& files) {
+    files.append(listPath(files), {});
+}
+
+std::string profileLine(std::string_view name, base::CivilDate birth, std::string_view timeText) {
+    std::string line(name);
+    line += "," + std::string(base::monthNameEnglish(birth.month)) + "/" + std::to_string(birth.day) + "/" +
+            std::to_string(birth.year) + ",";
+    return line.append(timeText);
+}
+
+bool appendProfile(platform::Files& files, std::string_view name, base::CivilDate birth, std::string_view timeText) {
+    const std::string path = listPath(files);
+    const std::string before = files.read(path).bytes;
+    const bool endsInsideLine = !before.empty() && lineEnd.find(before.back()) == std::string_view::npos;
+    std::string addition(endsInsideLine ? lineEnd : std::string_view{});
+    addition += base::toWestern(profileLine(name, birth, timeText));
+    return files.append(path, addition.append(lineEnd));
+}
+
+std::optional<std::string> saveProfile(platform::Files& files, platform::MessageBoxes& boxes,
+                                       shell::OptionsStore& options, base::CivilDate birth, std::string_view timeText) {
+    const std::string name = boxes.askText("Name for this profile:", "Profile").value_or(std::string{});
+    if (name.empty()) return std::nullopt;
+    if (standsInFull(files, base::toWestern(profileLine(name, birth, timeText)))) {
+        boxes.show(platform::BoxIcon::warning, "This profile exists already, put another please.", "Error");
+        return std::nullopt;
+    }
+    if (!appendProfile(files, name, birth, timeText))
+        throw base::RunTimeError(base::RunTimeError::Code::pathFileAccess, "perfiles.txt");
+    options.setOption(shell::key::perfilBio, name);
+    return base::fromWestern(base::toWestern(name));
+}
+
+std::optional<std::string> copyWithoutProfile(platform::Files& files, platform::MessageBoxes& boxes,
+                                              std::string_view selectedLine, const RewriteMessages& messages) {
+    if (selectedLine.empty()) return std::nullopt;
+    const auto list = files.read(listPath(files));
+    if (list.status != Status::read) return std::nullopt;
+    auto path = temporaryFile(files, boxes, messages);
+    if (!path) return std::nullopt;
+    const bool copied = files.replace(*path, withoutLinesHolding(list.bytes, base::toWestern(selectedLine)));
+    return copied ? path : std::nullopt;
+}
+
+bool replaceProfiles(platform::Files& files, const std::string& temporaryPath) {
+    return files.rename(temporaryPath, listPath(files));
+}
+
+void removeProfileLines(platform::Files& files, platform::MessageBoxes& boxes, std::string_view selectedLine,
+                        const RewriteMessages& messages) {
+    if (const auto copy = copyWithoutProfile(files, boxes, selectedLine, messages)) replaceProfiles(files, *copy);
+}
+
+} // namespace velmoriax::biorhythm

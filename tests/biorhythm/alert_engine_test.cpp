@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/number_text.h"
+#include "base/run_time_error.h"
+#include "biorhythm/alert_engine.h"
+#include "biorhythm/cycle_engine.h"
+#include "biorhythm/field_text.h"
+#include "biorhythm/profile_files.h"
+#include "shell/option_values.h"
+#include "tests/support/fakes.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace velmoriax::biorhythm {
+
+namespace {
+
+constexpr std::string_view rule = "\r\n---------------------------------------------\r\n";
+
+/// The half-hours of forty years, counted from 0.
+constexpr int halfHours = 40 * 365 * 48;
+base::DateValue halfHour(int number) {
+    static const int firstDay = base::dayNumber({1985, 1, 1});
+    return firstDay + number / 48.0;
+}
+
+class AlertEngine : public testing::Test {
+protected:
+    AlertEngine() {
+        setBirthDate(state, {1980, 3, 15});
+        setBirthTime(state, {7, 45, 0});
+    }
+
+    void run(std::string_view level, base::DateValue now) {
+        alertasbio(record, state, level, {now, base::civilDateOf(now)}, {notification, sounds});
+    }
+
+    AlertMessages messagesAt(base::DateValue now) {
+        const base::CivilMoment moment = base::civilMomentOf(now);
+        const float t = livedOf(birthOf(state), moment.date, moment.time).lived;
+        return messagesOf({cyclesAt(t - oneHour), cyclesAt(t), cyclesAt(t + oneHour)});
+    }
+
+    /// The first half-hour at which the three kinds of messages stand or are missing as told.
+    base::DateValue momentWith(bool phase, bool critical, bool crossing) {
+        for (int i = 0; i < halfHours; ++i) {
+            const AlertMessages messages = messagesAt(halfHour(i));
+            if (!joinAlertTexts(messages.phases).empty() == phase && !messages.critical.empty() == critical &&
+                !messages.crossing.empty() == crossing)
+                return halfHour(i);
+        }
+        throw std::runtime_error("no such moment");
+    }
+
+    /// Whether the value lines of a text, read back, tell the record's cycles.
+    bool linesReadBack(std::string_view text) const {
+        const auto lines = fieldsOf(text.substr(text.rfind("Physical: ")), '\n');
+        bool sound = lines.size() == cycleCount;
+        for (std::size_t i = 0; sound && i < cycleCount; ++i) {
+            const std::string_view value = lines[i].substr(lines[i].find(' '));
+            const bool rising = state.cycle[i] < state.cycleNext[i];
+            sound = lines[i].starts_with(cycleTable[i].lineWord) &&
+                    std::abs(base::leadingNumber(value) - state.cycle[i] * 100.0) < 0.00501 &&
+                    value.find(rising ? " % (rising)" : " % (falling)") != std::string_view::npos;
+        }
+        return sound;
+    }
+
+    BioState state;
+    AlertRecord record;
+    test::FakeNotification notification;
+    test::FakeSounds sounds;
+};
+
+} // namespace
+
+TEST(AlertMessages, BeginAPhaseAtATurningPointWithItsTies) {
+    const auto phase = [](float back, float now, float next) {
+        return phaseMessages({{0, back}, {0, now}, {0, next}})[emotional];
+    };
+    EXPECT_EQ(phase(-1, -1, -0.99F), "Your emotional cycle begins an ascending phase!");
+    EXPECT_EQ(phase(1, 1, 0.99F), "Your emotional cycle begins a descending phase!");
+    EXPECT_EQ(phase(0.98F, 1, 1), "") << "the turn comes with the next hour";
+}
+
+TEST(AlertMessages, NameTheFirstCriticalCycleThatMoves) {
+    const auto critical = [](CycleValues now, CycleValues next) { return criticalMessage({{}, now, next}); };
+    EXPECT_EQ(critical({0.05F, 0.01F, 1, 1}, {0.04F, 0.02F, 1, 1}),
+              "Your physical cycle enter in a critical period and advance toward a passive phase, so take it easy!");
+    EXPECT_EQ(critical({0.1F, 0.01F, 1, 1}, {0.09F, 0.02F, 1, 1}),
+              "Your emotional cycle enter in a critical period and advance toward an active phase, begin to put the "
+              "direct!")
+        << "the bound itself is not critical";
+    EXPECT_EQ(
+        critical({-0.1F, 0, std::nextafter(-0.1F, 0.0F), 1}, {0, 0, 0, 1}),
+        "Your intellectual cycle enter in a critical period and advance toward an active phase, mind begins to be "
+        "in form!")
+        << "the next number is, and a cycle that stands still is passed over";
+}
+
+TEST(AlertMessages, SetThePresentOfACycleAgainstTheOthersNextHour) {
+    const auto crossing = [](CycleValues now, CycleValues next) { return crossingMessage({{}, now, next}); };
+    EXPECT_EQ(crossing({0.50F, 0, 0.505F, 0}, {0.51F, 0, 0.495F, 0}),
+              "Crossing upward physical cycle to intellectual, the brute force imposes over mind!");
+    EXPECT_EQ(crossing({0.50F, 0, 0.52F, 0}, {0.51F, 0, 0.505F, 0}), "")
+        << "they cross within the hour, but the other stays above the present value";
+    EXPECT_EQ(crossing({0.50F, 0, 0.495F, 0}, {0.49F, 0, 0.505F, 0}),
+              "Crossing downward physical cycle to intellectual, mind imposes over strength!");
+    EXPECT_EQ(crossing({0, 0.50F, 0.495F, 0.495F}, {0, 0.49F, 0.505F, 0.505F}),
+              "Crossing downward emotional cycle to intellectual, mind overcomes feelings!")
+        << "the first of two in the table's order";
+}
+
+TEST_F(AlertEngine, BuildsTheHeadOfEachLevelFromEachCombination) {
+    // P phases, C critical, X crossing, | a line break.
+    const std::array<std::array<bool, 3>, 8> combinations{
+        {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 0}, {1, 0, 1}, {0, 1, 1}, {1, 1, 1}}};
+    const std::map<std::string_view, std::array<std::string_view, 8>> heads{
+        {"zero", {"", "P", "C", "X", "P|C", "P|X", "C|X", "P|C|X"}},
+        {"solo", {"", "", "", "", "", "", "", ""}},
+        {"bas1", {"", "P", "", "", "P", "P", "", "P"}},
+        {"bas2", {"", "", "C", "", "C", "", "C", "C"}},
+        {"bas3", {"", "", "", "X", "", "X", "X", "X"}},
+        {"med1", {"", "P", "C|", "", "C|P", "P", "C|", "C|P"}},
+        {"med2", {"", "", "C|", "X", "C|", "X", "C|X", "C|X"}},
+        {"med3", {"", "P", "", "X|", "P", "X|P", "X|", "X|P"}},
+        {"maxi", {"", "P", "C", "X", "P|C", "P|X", "C|X", "P|C|X"}},
+    };
+    record.manualAlert = true;
+    for (std::size_t i = 0; i < combinations.size(); ++i) {
+        const auto [phase, critical, crossing] = combinations[i];
+        const base::DateValue now = momentWith(phase, critical, crossing);
+        const AlertMessages messages = messagesAt(now);
+        const std::map<char, std::string> pieces{{'P', joinAlertTexts(messages.phases)},
+                                                 {'C', std::string(messages.critical)},
+                                                 {'X', std::string(messages.crossing)},
+                                                 {'|', "\r\n"}};
+        for (const auto& level : shell::alertLevels) {
+            std::string expected;
+            for (const char piece : heads.at(level.code)[i]) expected += pieces.at(piece);
+            if (!expected.empty()) expected += rule;
+            run(level.code, now);
+            EXPECT_EQ(notification.texts.back(), expected + valueLines(state)) << level.code << " " << i;
+        }
+    }
+    EXPECT_EQ(record.lastAlertKey, "") << "runs by hand leave the key alone";
+}
+
+TEST_F(AlertEngine, TellsEachChangeOfFortyYearsOnce) {
+    AlertMessages before;
+    std::size_t changes = 0;
+    for (int i = 0; i < halfHours; ++i) {
+        alertasbio(record, state, "maxi", {halfHour(i), {}}, {notification, sounds});
+        const AlertMessages messages = messagesOf({cyclesAt(state.lived - oneHour), state.cycle, state.cycleNext});
+        const bool changed = messages != before;
+        if (changed) ++changes;
+        if (notification.texts.size() != changes) FAIL() << "half-hour " << i;
+        if (changed) {
+            const std::string& text = notification.texts.back();
+            ASSERT_TRUE(linesReadBack(text)) << text;
+            ASSERT_EQ(text.starts_with("Physical: "), messages == AlertMessages{}) << text;
+            ASSERT_EQ(text.find("\r\n\r\n"), std::string::npos) << text;
+        }
+        before = messages;
+    }
+    EXPECT_GT(changes, 10000U);
+}
+
+TEST_F(AlertEngine, OpensAtStartByHandAndOnANewKeyAlone) {
+    const base::DateValue quiet = momentWith(false, false, false);
+    const base::DateValue critical = momentWith(false, true, false);
+    run("zero", critical);
+    EXPECT_EQ(state.lived, 0) << "on level zero not even the computation is made";
+    run("solo", critical);
+    EXPECT_TRUE(notification.texts.empty()) << "solo says nothing on a tick";
+    record.startupAlert = true;
+    run("solo", critical);
+    run("zero", critical);
+    EXPECT_EQ(notification.texts.size(), 1U);
+    record.startupAlert = false;
+    EXPECT_TRUE(notification.texts.back().starts_with("Physical: ")) << "without the rule of hyphens";
+    run("bas3", critical);
+    EXPECT_EQ(notification.texts.size(), 1U) << "the start kept the key";
+    run("bas3", quiet);
+    EXPECT_EQ(notification.texts.size(), 2U) << "the end of a critical period is told by the value lines";
+    run("bas3", quiet);
+    EXPECT_EQ(notification.texts.size(), 2U);
+    notification.open = notification.opens = false;
+    run("bas2", critical);
+    EXPECT_EQ(notification.texts.size(), 3U);
+    EXPECT_EQ(sounds.played, std::vector<std::string>(2, "Url.wav")) << "silent when the window does not stand";
+}
+
+TEST_F(AlertEngine, StandsByHandOnTheDateOfTheView) {
+    const AlertOutlets outlets{notification, sounds};
+    const base::DateValue now = base::dateValueOf({2026, 11, 15}, {18, 30, 0});
+    alertByHand(record, state, "zero", {now, {2026, 6, 20}}, outlets);
+    EXPECT_NE(notification.texts.back().find("Emotional: -9.74 % (falling)\r\nIntellectual: 44.72 %"),
+              std::string::npos);
+    state = {};
+    record = {};
+    run("maxi", now);
+    EXPECT_EQ(notification.texts.size(), 1U) << "without a birth date";
+    EXPECT_TRUE(helpIsDue(record, state));
+    alertByHand(record, state, "maxi", {now, {2026, 6, 20}}, outlets);
+    const std::string help = "- Insert the birth date to calculate biorhythms\r\n"
+                             "- In options you can change the level of alerts\r\n"
+                             "- Biorhythms will update every 30 minutes";
+    EXPECT_EQ(notification.texts.back(), help);
+    setBirthDate(state, {1980, 3, 15});
+    run("solo", now);
+    EXPECT_EQ(notification.texts.back(), help + valueLines(state)) << "solo builds no head: it adds to what stands";
+}
+
+TEST_F(AlertEngine, TakesTheTipsBirthDateFromTheFileAndItsTimeFromTheRecord) {
+    test::FakeFiles files;
+    EXPECT_THROW(biotip(files, state, record, 0), base::RunTimeError);
+    createMissingProfileFiles(files);
+    record.bioTipText = "as before";
+    const base::DateValue now = base::dateValueOf({2026, 6, 20}, {18, 30, 0});
+    biotip(files, state, record, now);
+    EXPECT_EQ(record.bioTipText, "as before");
+    files.at("\\bio.dat") = "15,3,1980\r\n";
+    biotip(files, state, record, now);
+    EXPECT_EQ(record.bioTipText, "Biorhythms (avg.): -39.20 % (<)") << "born at 7:45, not at the file's 12:00";
+}
+
+} // namespace velmoriax::biorhythm

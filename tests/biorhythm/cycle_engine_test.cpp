@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "biorhythm/bio_gauge.h"
+#include "biorhythm/cycle_engine.h"
+
+#include <gtest/gtest.h>
+
+namespace velmoriax::biorhythm {
+
+namespace {
+
+BioState computed(const base::CivilMoment& birth, base::CivilDate reading, base::CivilTime clock) {
+    BioState state;
+    computeLived(state, birth, reading, clock);
+    computeCycles(state);
+    computeAverage(state);
+    return state;
+}
+
+} // namespace
+
+TEST(CycleEngine, FollowsAKnownLifeToTheLastBit) {
+    const BioState state = computed({{1980, 3, 15}, {7, 45, 0}}, {2026, 6, 20}, {18, 30, 59});
+    EXPECT_EQ(state.wholeDays, 16897);
+    EXPECT_EQ(state.minutesLeftAtBirth, 975);
+    EXPECT_EQ(state.livedAtMidnight, 16897.677734375F);
+    EXPECT_EQ(state.lived, 16898.44921875F) << "rounded to 32 bits twice, without the seconds";
+    EXPECT_FLOAT_EQ(state.cycle[physical], -0.9753139F);
+    EXPECT_FLOAT_EQ(state.cycle[emotional], -0.0974466F);
+    EXPECT_FLOAT_EQ(state.cycleNext[emotional], -0.1067477F);
+    EXPECT_FLOAT_EQ(state.cycle[intellectual], 0.4471822F);
+    EXPECT_FLOAT_EQ(state.cycle[intuition], -0.9422699F);
+    EXPECT_EQ(averageLine(state), "-39.20% (negative: bad day)");
+}
+
+TEST(CycleEngine, CountsTheAgeThroughTheMinutesOfTheDayOfBirth) {
+    const base::CivilMoment noon{{2000, 2, 28}, {12, 0, 0}};
+    const BioState atBirth = computed(noon, noon.date, noon.time);
+    EXPECT_EQ(atBirth.wholeDays, -1);
+    EXPECT_EQ(atBirth.livedAtMidnight, -0.5F);
+    EXPECT_EQ(atBirth.lived, 0.0F);
+    EXPECT_EQ(averageLine(atBirth), "0.00% (positive: regular or critical day)");
+    EXPECT_EQ(computed(noon, {2000, 3, 1}, noon.time).lived, 2.0F) << "2000 is a leap year of the true calendar";
+    const BioState unborn = computed(noon, {2000, 2, 18}, noon.time);
+    EXPECT_EQ(unborn.lived, -10.0F);
+    EXPECT_EQ(unborn.cycle[physical], -computeCycleAt(10, 23));
+}
+
+TEST(CycleEngine, RatesThePrintedAverageByTheBandsAndTheirEdges) {
+    struct Row {
+        double percent;
+        const char* words;
+        const char* reason;
+    };
+    const Row rows[] = {
+        {-100, "(negative: dreadful day)", "the low end"},
+        {-80.004, "(negative: super bad day)", "prints as -80.00, which opens the band"},
+        {-20, "(negative: regular or critical day)", "lower bounds belong to their band"},
+        {-0.004, "(positive: regular or critical day)", "prints as 0.00"},
+        {40, "(positive: very good day)", "an upper bound that its band excludes"},
+        {60, "(positive: very good day)", "an upper bound that its band includes"},
+        {100, "(positive: excellent day)", "the high end"},
+        {130, "as before", "in no band: the words stay"},
+    };
+    for (const Row& row : rows) {
+        BioState state;
+        state.ratingText = "as before";
+        state.cycle.fill(static_cast<float>(row.percent / 100));
+        computeAverage(state);
+        EXPECT_EQ(state.ratingText, row.words) << row.percent << ": " << row.reason;
+    }
+}
+
+TEST(BioGauge, ShowsTheAverageOfTodayInFullPrecision) {
+    BioState state;
+    setBirthDate(state, {1980, 3, 15});
+    setBirthTime(state, {7, 5, 0});
+    const BioGauge bad = drawBioMedia(state, base::dateValueOf({2026, 6, 20}, {18, 30, 0}));
+    EXPECT_EQ(bad.labelBioInfo, "Biorhythms: b.3/15/1980 7:05 (average)");
+    EXPECT_NEAR(bad.value, -0.39, 0.01);
+    EXPECT_EQ(bad.colour, pureRed);
+    EXPECT_EQ(bad.trend, Trend::falling);
+    setBirthTime(state, {12, 0, 0});
+    const BioGauge newborn = drawBioMedia(state, base::dateValueOf({1980, 3, 15}, {12, 0, 0}));
+    EXPECT_EQ(newborn.value, 0.0F);
+    EXPECT_EQ(newborn.colour, pureGreen) << "a bar of no height is a green one";
+    EXPECT_EQ(newborn.trend, Trend::rising);
+    EXPECT_EQ(trendOf(0.5F, 0.5F), Trend::level);
+}
+
+} // namespace velmoriax::biorhythm
