@@ -138,7 +138,7 @@ int main(int argc, char** argv) {
     const double startMs = medianStart(std::atoi(argv[1]), argv + 3);
     const int idleSeconds = std::atoi(argv[2]);
     const ::pid_t child = start(argv + 3);
-    std::this_thread::sleep_for(std::chrono::seconds(5));
+    std::this_thread::sleep_for(std::chrono::seconds(idleSeconds > 0 ? 5 : 0));
     const Activity before = activityOf(child);
     std::this_thread::sleep_for(std::chrono::seconds(idleSeconds));
     const Activity after = activityOf(child);
