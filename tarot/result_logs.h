@@ -35,8 +35,11 @@ struct NumbersRecord {
     std::string pictureFile;
 };
 
+/// First and second name, first and second surname.
+using NameFields = std::array<std::string, 4>;
+
 struct NamesRecord {
-    std::array<std::string, 4> fields; ///< first and second name, first and second surname
+    NameFields fields;
     std::string pictureFile;
 };
 
