@@ -18,6 +18,10 @@ namespace {
 
 } // namespace
 
+std::string resultLineOf(const MajorCard& card) {
+    return "It has corresponded... " + std::string(card.numbersName);
+}
+
 std::optional<NumbersReading> SumarUnidades(std::string_view numero, std::string_view applicationDirectory,
                                             std::string_view tipocartas, CardState& state) {
     if (!isNumericText(numero)) return std::nullopt;
@@ -25,7 +29,7 @@ std::optional<NumbersReading> SumarUnidades(std::string_view numero, std::string
     reading.digitSum = base::toInt16(base::digitSum(numero));
     if (reading.digitSum == 0) refuseWithoutCard(numero);
     reading.drawn = drawnMajor(reading.digitSum, applicationDirectory, tipocartas, state);
-    reading.resultLine = "It has corresponded... " + std::string(majorCard(reading.drawn.card).numbersName);
+    reading.resultLine = resultLineOf(majorCard(reading.drawn.card));
     reading.record = {std::string(numero), reading.drawn.pictureFile};
     return reading;
 }

@@ -10,6 +10,9 @@ namespace velmoriax::tarot {
 
 inline constexpr std::string_view numbersWarning = "You must enter only numbers";
 
+/// "It has corresponded... " and the card by its `numbersName`, which its tip may not share.
+std::string resultLineOf(const MajorCard& card);
+
 struct NumbersReading {
     std::int16_t digitSum = 0; ///< unreduced
     DrawnCard drawn;

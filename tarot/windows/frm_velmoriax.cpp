@@ -9,11 +9,24 @@
 
 namespace velmoriax::tarot {
 
+namespace {
+
+/// Wide enough for the result line of every card, in the line's own font.
+void makeRoomForResults(QLineEdit& line) {
+    int widest = 0;
+    for (const MajorCard& card : majorArcana)
+        widest = std::max(widest, line.fontMetrics().horizontalAdvance(QString::fromStdString(resultLineOf(card))));
+    line.setMinimumWidth(widest + line.fontMetrics().averageCharWidth());
+}
+
+} // namespace
+
 frmVelmoriax::frmVelmoriax(shell::Process& process) :
     ModuleWindow(process, shell::Module::numbers), ui_(std::make_unique<Ui::frmVelmoriax>()),
     results_(numbersLog, "MnuRegResult", *this, process) {
     ui_->setupUi(this);
     shell::look::asTitle(*ui_->Text2);
+    makeRoomForResults(*ui_->Text2);
     ui_->ImgVelmoriax->setCornerRadius(cardCornerShare);
     ui_->ImgVelmoriax->setClickable(true);
     buildNavigation();
