@@ -12,8 +12,7 @@ namespace {
 
 [[noreturn]] void refuseWithoutCard(std::string_view numero) {
     throw base::RunTimeError(base::RunTimeError::Code::subscriptOutOfRange,
-                             "The digits of \"" + std::string(numero) +
-                                 "\" add up to 0, and there is no card with the number 0.");
+                             "The digits of \"" + std::string(numero) + "\" add up to 0, and there is no card 0.");
 }
 
 } // namespace

@@ -28,16 +28,13 @@ TEST(SumaNombres, AddsTheLettersOfAField) {
         {"Núñez", 29, "ñ has a value of its own"},
         {"Ana Luisa", 26, "blanks fall out"},
         {"José", 15, ""},
-        {"O'Hara", 18, "the apostrophe is skipped"},
         {"Ñ", 6, "a capital Ñ"},
         {"Jose\u0301", 15, "a decomposed accent"},
         {"Müller-Weiß", 4 + 3 + 3 + 5 + 1 + 6 + 5 + 9, "ü, ß and the hyphen are no letters of the table"},
         {"ü", 0, "nothing but such letters"},
         {"   ", 0, "blanks alone"},
-        {"", 0, "nothing"},
         {"Ana 😀 שרה", 7, "other scripts are skipped"},
         {"Juan2", std::nullopt, "a digit refuses the whole field"},
-        {"0", std::nullopt, "0 is a digit"},
         {"Juan²", 1 + 4 + 1 + 5, "a raised 2 is none"},
     };
     for (const Case& row : cases) EXPECT_EQ(sumaNombres(row.field), row.sum) << row.field << ": " << row.why;
@@ -54,7 +51,6 @@ TEST(ReadNames, AddsTheFieldsToACard) {
         {{"María", "", "Núñez", ""}, 1, 0, "45 twice less 22"},
         {{"Ana Luisa", "", "", ""}, 4, 0, "26"},
         {{"", "", "", "José"}, 15, 0, "15 is not reduced by 14"},
-        {{"a", "", "", ""}, 1, 0, "the least"},
         {{"n", "i", "", ""}, 14, 0, "14"},
         {{"i", "i", "d", ""}, 22, 0, "22 stays"},
         {{"i", "i", "e", ""}, 1, 0, "23 begins anew"},
@@ -80,10 +76,7 @@ TEST(ReadNames, AnyOrderOfTheFieldsGivesTheSameCard) {
     do {
         EXPECT_EQ(read(fields).drawn->card, card);
     } while (std::next_permutation(fields.begin(), fields.end()));
-}
-
-TEST(ReadNames, BearsANameOfAnyLength) {
-    EXPECT_EQ(read({std::string(220'000, 'z') + "a", "", "", ""}).drawn->card, 1);
+    EXPECT_EQ(read({std::string(220'000, 'z') + "a", "", "", ""}).drawn->card, 1) << "a name of any length";
 }
 
 TEST(ReadNames, LogsTheFieldsAsTypedInTheCodePage) {

@@ -54,11 +54,5 @@ TEST_F(ResultLogs, FailInSilence) {
     EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST_F(ResultLogs, AreHandedToTheDesktop) {
-    test::FakeOpener opener;
-    showResults(namesLog, files, opener);
-    EXPECT_EQ(opener.opened, std::vector<std::string>{files.directory + "\\logs\\resNames.log"});
-}
-
 } // namespace
 } // namespace velmoriax::tarot
