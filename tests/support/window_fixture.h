@@ -12,6 +12,11 @@
 
 #include <gtest/gtest.h>
 
+/// The font library keeps its caches to the end of the process and has no one to free them.
+extern "C" [[gnu::weak]] const char* __lsan_default_suppressions() {
+    return "leak:libfontconfig\n";
+}
+
 /// Windows without a desktop: a whole process of fakes, on the platform that draws to nowhere.
 namespace velmoriax::test {
 
