@@ -45,8 +45,9 @@ using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
 
 bool x11TrayIsThere() {
     auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11) return false;
-    ::xcb_connection_t* connection = x11->connection();
+    // The platform that draws to nowhere has the interface as well, without a connection behind it.
+    ::xcb_connection_t* connection = x11 ? x11->connection() : nullptr;
+    if (!connection) return false;
     const std::string name = "_NET_SYSTEM_TRAY_S0";
     const auto atomCookie = ::xcb_intern_atom(connection, 1, static_cast<std::uint16_t>(name.size()), name.data());
     const Owned<::xcb_intern_atom_reply_t> atom(::xcb_intern_atom_reply(connection, atomCookie, nullptr), &std::free);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/windows/module_window.h"
+#include "tarot/windows/result_menu.h"
 
 #include <memory>
 
@@ -11,6 +11,7 @@ class frmVelmoriax;
 
 namespace velmoriax::tarot {
 
+/// The card of a number.
 class frmVelmoriax : public shell::ModuleWindow {
     Q_OBJECT
 
@@ -20,9 +21,17 @@ public:
 
 protected:
     void ownLoad() override;
+    void ownCommand(std::string_view name) override { results_.run(name); }
 
 private:
+    void connectControls();
+    void submit();
+    void reset();
+    void describeCard();
+
     std::unique_ptr<Ui::frmVelmoriax> ui_;
+    ResultMenu results_;
+    std::int16_t numberCard_ = 0; ///< of the latest reading; the reset keeps it
 };
 
 } // namespace velmoriax::tarot

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tarot/card_catalogue.h"
+
+namespace velmoriax::tarot {
+
+/// How a card lies. Only a real throw of the oracle turns cards; every other card is upright and says nothing of it.
+enum class Orientation { notThrown, normal, inverted };
+
+/// A card as a reading brings it up, with what a window shows of it.
+struct DrawnCard {
+    std::int16_t card = 0;   ///< 1 to 22 of the major arcana, 1 to 14 of a suit
+    std::string pictureFile; ///< as the logs name the card
+    std::string picturePath;
+    std::string tip; ///< the `cardTipNames` entry of a major card; minor cards have no names
+    Orientation orientation = Orientation::notThrown;
+};
+
+/// Reduces a total to a major card, leaves it in `currentCard` and fills its name. `tipocartas` is the deck in use.
+/// Throws RunTimeError Subscript out of range for a total below 1.
+DrawnCard drawnMajor(int total, std::string_view applicationDirectory, std::string_view tipocartas, CardState& state);
+
+/// Reduces a total to a card of a suit. Throws as above.
+DrawnCard drawnMinor(int total, Suit suit, std::string_view applicationDirectory);
+
+} // namespace velmoriax::tarot

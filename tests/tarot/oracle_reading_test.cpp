@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tarot/oracle_reading.h"
+
+#include "base/run_time_error.h"
+#include "support/fakes.h"
+
+#include <gtest/gtest.h>
+
+namespace velmoriax::tarot {
+namespace {
+
+const base::CivilDate november15{2026, 11, 15}; // digits 18
+const base::DateValue evening = base::dateValueOf({2026, 11, 16}, {20, 5, 9});
+
+/// A text that counts exactly so much: nines of "i" and one digit for the rest.
+std::string textWorth(int sum) {
+    return std::string(static_cast<std::size_t>(sum / 9), 'i') + std::to_string(sum % 9);
+}
+
+struct Oracle : testing::Test {
+    test::FakeFiles files;
+    test::FakeRandom random;
+    shell::OptionsStore options{files};
+    OracleState state;
+    CardState cards;
+    OracleServices services{options, random, files.directory};
+
+    Oracle() {
+        options.holders.tipocartas = "marsellaone";
+        state.readingDate = november15;
+    }
+    auto draw(Suit suit, std::string_view question) { return drawSuitCard(suit, question, state, services); }
+    auto drawFinal(std::string_view swordsText = "x") {
+        return drawFinalCard(swordsText, evening, state, cards, services);
+    }
+};
+
+TEST(Sustituir, CountsLettersAndDigitsAndNothingElse) {
+    struct Case {
+        std::string_view text;
+        int sum;
+        const char* why;
+    };
+    const Case cases[]{
+        {"Hola mundo", 43, "blanks fall out"},
+        {"Mañana", 18, "ñ counts 6"},
+        {"MAÑANA", 18, "capitals count as small letters"},
+        {"man\u0303ana", 18, "a decomposed ñ is one letter"},
+        {"ajrá bks clt dmuú envé fñw goxó hpy iqzí", 4 + 6 + 9 + 16 + 20 + 18 + 28 + 24 + 36, "the whole table"},
+        {"ÁÉÍÓÚÑ", 1 + 5 + 9 + 7 + 4 + 6, "accented capitals"},
+        {"0123456789", 45, "digits count as themselves"},
+        {"üçàß¿?-'\t\n.", 0, "no letters of the table"},
+        {"😀 שלום مرحبا ١٢", 0, "other scripts and their digits"},
+    };
+    for (const Case& row : cases) EXPECT_EQ(sustituir(row.text), row.sum) << row.text << ": " << row.why;
+    EXPECT_EQ(sustituir(textWorth(32767)), 32767);
+    EXPECT_THROW(sustituir(textWorth(32768)), base::RunTimeError);
+}
+
+TEST_F(Oracle, ThrowsForRealUnlessTheOptionIsEmptyOrObjective) {
+    const std::pair<const char*, bool> cases[]{{"", false}, {"objetiva", false}, {"real", true}, {"Objetiva", true}};
+    for (const auto& [value, real] : cases) {
+        options.setOption(shell::key::tirada, value);
+        readThrowOption(state, options);
+        EXPECT_EQ(state.realThrow, real) << value;
+    }
+}
+
+TEST_F(Oracle, DrawsTheSuitsCardFromWordsAndDate) {
+    EXPECT_EQ(draw(Suit::batons, "Hola mundo")->drawn.picturePath, files.directory + "\\amenores\\5bastos.jpg");
+    EXPECT_EQ(state.currentCardNumber, 5);
+    services.applicationDirectory = "C:\\";
+    EXPECT_EQ(draw(Suit::batons, "Hola mundo")->drawn.picturePath, "C:\\5bastos.jpg") << "a root has no folders";
+
+    const std::pair<int, const char*> cases[]{{1, "1oros.jpg"},  {14, "rey-oros.jpg"}, {15, "1oros.jpg"},
+                                              {22, "8oros.jpg"}, {23, "9oros.jpg"},    {25, "sota-oros.jpg"},
+                                              {44, "2oros.jpg"}, {45, "3oros.jpg"}};
+    state.readingDate = {2020, 1, 9}; // digits 14: the words alone decide
+    for (const auto& [words, picture] : cases)
+        EXPECT_EQ(draw(Suit::golds, textWorth(words))->drawn.pictureFile, picture) << words;
+}
+
+TEST_F(Oracle, AQuestionThatCountsNothingOnlyClosesTheFinalCard) {
+    draw(Suit::cups, "a");
+    ASSERT_TRUE(drawFinal());
+    EXPECT_FALSE(draw(Suit::cups, " ?! "));
+    EXPECT_FALSE(state.finalDrawn);
+    EXPECT_TRUE(state.readingStarted);
+    EXPECT_EQ(state.cupSum, 1);
+    EXPECT_EQ(state.cupCard, 5);
+}
+
+TEST_F(Oracle, AddsWordSumsAndDateToTheFinalCard) {
+    struct Case {
+        std::array<int, 4> words; // batons, cups, swords, golds; the date adds 18
+        const char* picture;
+        const char* why;
+    };
+    const Case cases[]{
+        {{43, 0, 20, 0}, "diablo15.jpg", "81 less 66"},
+        {{1, 1, 1, 1}, "mundo22.jpg", "a total of 22 stays"},
+        {{0, 5, 0, 0}, "mago1.jpg", "23 begins again"},
+        {{0, 0, 13, 13}, "mundo22.jpg", "44"},
+        {{27, 0, 0, 0}, "mago1.jpg", "45"},
+    };
+    for (const Case& row : cases) {
+        resetReading(state);
+        for (std::size_t i = 0; i < 4; ++i) draw(static_cast<Suit>(i), row.words[i] ? textWorth(row.words[i]) : "");
+        const auto reading = drawFinal();
+        EXPECT_EQ(reading->drawn.picturePath, files.directory + "\\imagenes\\" + row.picture) << row.why;
+        EXPECT_EQ(reading->drawn.tip, majorCard(state.globalCard).tipName);
+        EXPECT_EQ(cards.currentCard, state.currentCardNumber);
+    }
+    resetReading(state);
+    EXPECT_FALSE(drawFinal()) << "no suit was asked";
+    EXPECT_FALSE(state.finalDrawn);
+}
+
+TEST_F(Oracle, TurnsCardsByChanceInARealThrowAlone) {
+    random.numbers = {0.75F};
+    EXPECT_EQ(draw(Suit::cups, "a")->drawn.orientation, Orientation::notThrown);
+    EXPECT_EQ(random.seeds, 0);
+
+    options.setOption(shell::key::tirada, "real");
+    random.numbers = {0.0F, 0.49999997F, 0.5F, 0.99999994F};
+    for (const auto expected :
+         {Orientation::normal, Orientation::normal, Orientation::inverted, Orientation::inverted}) {
+        EXPECT_EQ(draw(Suit::cups, "a")->drawn.orientation, expected);
+        EXPECT_EQ(state.cupCard, 5) << "chance does not choose the card";
+    }
+    EXPECT_EQ(random.seeds, 4);
+    random.numbers = {0.5F};
+    EXPECT_EQ(drawFinal()->drawn.orientation, Orientation::inverted);
+    EXPECT_EQ(state.cardOrientation, 2);
+}
+
+TEST_F(Oracle, LogsSuitsAndFinalCard) {
+    appendRecord(files, draw(Suit::batons, "Hola mundo")->record);
+    options.setOption(shell::key::tirada, "real");
+    random.numbers = {0.0F, 0.5F};
+    appendRecord(files, draw(Suit::swords, "¿Mañana?")->record);
+    appendRecord(files, drawFinal("later 😀")->record);
+    const std::string expected = "----------------------\r\n"
+                                 "Question for the batons: Hola mundo\r\n"
+                                 "Resultant card: 5bastos.jpg\r\n"
+                                 "----------------------\r\n"
+                                 "Question for the swords: \xBFMa\xF1\x61na?\r\n"
+                                 "Resultant card: 8espadas.jpg (Normal)\r\n"
+                                 "=========================\r\n"
+                                 "Date of saving: 11/16/2026 20:05:09\r\n"
+                                 "Date for the read: ay, November 15 2026\r\n"
+                                 "Global resultant card: muerte13.jpg (Inverted)\r\n"
+                                 "=========================\r\n"
+                                 "                         \r\n";
+    EXPECT_EQ(files.at("\\logs\\resOracle.log"), expected);
+    appendRecord(files, drawFinal("")->record);
+    EXPECT_EQ(files.at("\\logs\\resOracle.log"), expected) << "only with a text in the swords' box";
+}
+
+TEST_F(Oracle, OpensTheTextsOfDrawnCardsUntilADateOrAResetClosesThem) {
+    EXPECT_FALSE(openSuitText(Suit::cups, state, files.directory));
+    draw(Suit::cups, "Hola mundo");
+    ASSERT_TRUE(drawFinal());
+    EXPECT_EQ(openSuitText(Suit::cups, state, files.directory), files.directory + "\\mtextos\\5copas.txt");
+    EXPECT_EQ(openFinalText(state, files.directory), files.directory + "\\textos\\estrella17.txt");
+    EXPECT_EQ(state.currentCardNumber, 17);
+
+    chooseDate(state, {2026, 1, 5});
+    EXPECT_FALSE(openFinalText(state, files.directory));
+    resetReading(state);
+    EXPECT_FALSE(state.readingStarted || openSuitText(Suit::cups, state, files.directory));
+    EXPECT_TRUE(state.dateChosen);
+    EXPECT_EQ(dateButtonCaption(state.readingDate), "- Date of reading -\nMonday, January 5 2026");
+}
+
+} // namespace
+} // namespace velmoriax::tarot

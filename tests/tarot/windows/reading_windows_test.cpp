@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/windows/picture_box.h"
+#include "shell/windows/turned_picture.h"
+#include "support/window_fixture.h"
+#include "tarot/windows/frm_name.h"
+#include "tarot/windows/frm_velmoriax.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+namespace velmoriax::tarot {
+namespace {
+
+constexpr QRgb back = 0xffff0000;
+
+/// Card n has n in the blue of its first pixel, the back is red.
+struct ReadingWindows : test::WindowFixture {
+    ReadingWindows() {
+        record.options.holders.tipocartas = "marsellaone";
+        files.at("\\amenores\\reverso2.jpg") = test::pictureBytes(back);
+        for (int card = 1; card <= majorCards; ++card)
+            files.at("\\imagenes\\" + majorPictureFile(card)) = test::pictureBytes(0xff000000U + unsigned(card));
+    }
+
+    static QRgb onShow(const QWidget& window, const char* name) {
+        return control<shell::PictureBox>(window, name).picture().pixel(0, 0);
+    }
+    static void type(QWidget& window, const char* name, const char* text) {
+        control<QLineEdit>(window, name).setText(QString::fromUtf8(text));
+    }
+    static void press(QWidget& window, const char* name) { control<QPushButton>(window, name).click(); }
+};
+
+struct NumbersWindow : ReadingWindows {
+    shell::ModuleWindow& window = load<frmVelmoriax>(shell::Module::numbers);
+    shell::PictureBox& picture = control<shell::PictureBox>(window, "ImgVelmoriax");
+    QString result() { return control<QLineEdit>(window, "Text2").text(); }
+};
+
+struct NamesWindow : ReadingWindows {
+    shell::ModuleWindow& window = load<FrmName>(shell::Module::names);
+    shell::PictureBox& picture = control<shell::PictureBox>(window, "ImgNombre");
+};
+
+TEST_F(NumbersWindow, ShowsTheCardAndKeepsWhatTheResetLeaves) {
+    EXPECT_EQ(onShow(window, "ImgVelmoriax"), back);
+    Q_EMIT picture.clicked();
+    EXPECT_TRUE(boxes.shown.empty()) << "there is nothing to describe yet";
+
+    type(window, "text1", "77");
+    press(window, "ARButtonAcep");
+    EXPECT_EQ(onShow(window, "ImgVelmoriax"), 0xff00000eU);
+    EXPECT_EQ(result(), QStringLiteral("It has corresponded... XIV. The Temperance"));
+    EXPECT_EQ(picture.toolTip(), QStringLiteral("XIV. Temperance"));
+
+    press(window, "ARButtonReset");
+    EXPECT_EQ(onShow(window, "ImgVelmoriax"), back);
+    EXPECT_TRUE(result().isEmpty() && control<QLineEdit>(window, "text1").text().isEmpty());
+    EXPECT_EQ(picture.toolTip(), QStringLiteral("XIV. Temperance"));
+    record.cards.currentCard = 3;
+    boxes.whileOpen = [this] { EXPECT_TRUE(record.cards.cardDescriptionOpen); };
+    Q_EMIT picture.clicked();
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].title, "XIV. Temperance");
+    EXPECT_FALSE(record.cards.cardDescriptionOpen);
+}
+
+TEST_F(NumbersWindow, RefusesWhatIsNoNumberAndKeepsTheCard) {
+    type(window, "text1", "1");
+    press(window, "ARButtonAcep");
+    QTest::keyClicks(&control<QLineEdit>(window, "text1"), QStringLiteral("234567890123x"));
+    EXPECT_EQ(control<QLineEdit>(window, "text1").text(), QStringLiteral("123456789012"));
+    type(window, "text1", "12a");
+    QTest::keyClick(&control<QLineEdit>(window, "text1"), Qt::Key_Return);
+    EXPECT_EQ(boxes.shown, (std::vector<test::FakeBoxes::Shown>{
+                               {platform::BoxIcon::warning, "You must enter only numbers", "Info"}}));
+    EXPECT_TRUE(control<QLineEdit>(window, "text1").text().isEmpty());
+    EXPECT_EQ(onShow(window, "ImgVelmoriax"), 0xff000001U);
+    EXPECT_EQ(result(), QStringLiteral("It has corresponded... I. The Magician"));
+}
+
+TEST_F(NumbersWindow, TheCheckMarkAloneDecidesOnTheLog) {
+    QAction& save = *window.menuAction("MnuRegResult");
+    EXPECT_FALSE(save.isChecked());
+    record.options.setOption(shell::key::logResNumbers, "yes");
+    type(window, "text1", "1");
+    press(window, "ARButtonAcep");
+    EXPECT_FALSE(files.has("\\logs\\resNumbers.log"));
+
+    save.trigger();
+    record.options.setOption(shell::key::logResNumbers, "no");
+    press(window, "ARButtonAcep");
+    EXPECT_TRUE(files.at("\\logs\\resNumbers.log").ends_with("Resultant Card: mago1.jpg\r\n"));
+    save.trigger();
+    save.trigger();
+    EXPECT_EQ(record.options.option(shell::key::logResNumbers), "yes");
+
+    boxes.yesNoAnswers = {true};
+    window.menuAction("MnuDelResults")->trigger();
+    window.menuAction("MnuShowResults")->trigger();
+    EXPECT_EQ(files.at("\\logs\\resNumbers.log"), "\r\n");
+    EXPECT_EQ(opener.opened, std::vector<std::string>{files.directory + "\\logs\\resNumbers.log"});
+}
+
+TEST_F(NamesWindow, WarnsOfEachFieldWithADigitAndReadsTheOthers) {
+    window.menuAction("MnuRecResults")->trigger();
+    EXPECT_EQ(record.options.option(shell::key::logResNames), "yes");
+    type(window, "Text1nom", "Juan2");
+    type(window, "Text2nom", "3");
+    press(window, "ARButtonAcep");
+    EXPECT_EQ(boxes.shown.size(), 2U);
+    EXPECT_EQ(onShow(window, "ImgNombre"), back) << "nothing was left to read";
+    EXPECT_FALSE(files.has("\\logs\\resNames.log"));
+
+    type(window, "Text2ape", "José");
+    press(window, "ARButtonAcep");
+    EXPECT_EQ(boxes.shown.size(), 4U);
+    EXPECT_EQ(onShow(window, "ImgNombre"), 0xff00000fU);
+    EXPECT_EQ(picture.toolTip(), QStringLiteral("XV. The Devil"));
+    EXPECT_TRUE(files.at("\\logs\\resNames.log").ends_with("Resultant card: diablo15.jpg\r\n"));
+
+    press(window, "ARButtonReset");
+    EXPECT_TRUE(control<QLineEdit>(window, "Text2ape").text().isEmpty());
+    Q_EMIT picture.clicked();
+    EXPECT_EQ(boxes.shown.back().title, "XV. The Devil") << "the reset forgets the names, not the card";
+}
+
+TEST_F(NamesWindow, EnterWalksThroughTheControlsAndPressesNone) {
+    type(window, "Text1nom", "José");
+    for (const char* name :
+         {"Text1nom", "Text2nom", "Text1ape", "Text2ape", "ARButtonAcep", "ARButtonReset", "ImgNombre"}) {
+        ASSERT_TRUE(window.focusWidget());
+        EXPECT_EQ(window.focusWidget()->objectName().toStdString(), name);
+        QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    }
+    EXPECT_EQ(onShow(window, "ImgNombre"), back) << "no button was pressed on the way";
+    EXPECT_EQ(control<QLineEdit>(window, "Text1nom").text(), QStringLiteral("José"));
+    EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(ReadingWindows, TakeTheCheckMarkFromTheOptionsWhenTheyLoad) {
+    record.options.setOption(shell::key::logResNames, "yes");
+    EXPECT_TRUE(load<FrmName>(shell::Module::names).menuAction("MnuRecResults")->isChecked());
+    EXPECT_FALSE(load<frmVelmoriax>(shell::Module::numbers).menuAction("MnuRegResult")->isChecked());
+}
+
+TEST(TurnedPicture, TurnsAnyFormatAndKeepsTheRim) {
+    test::application();
+    for (const auto format : {QImage::Format_RGB32, QImage::Format_RGB888, QImage::Format_RGB16,
+                              QImage::Format_Indexed8, QImage::Format_Mono}) {
+        QImage picture(7, 9, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        picture.setPixelColor(0, 0, Qt::black);
+        picture.setPixelColor(2, 2, Qt::black);
+        picture = picture.convertToFormat(format);
+        const auto black = [](const QImage& image, int x, int y) { return qGray(image.pixel(x, y)) == 0; };
+
+        const QImage whole = shell::turnedHalf(picture, 0);
+        EXPECT_TRUE(black(whole, 6, 8) && black(whole, 4, 6) && !black(whole, 0, 0)) << format;
+        const QImage inside = shell::turnedHalf(picture, 4);
+        EXPECT_TRUE(black(inside, 0, 0) && black(inside, 4, 6) && !black(inside, 6, 8)) << format;
+        EXPECT_EQ(shell::turnedHalf(inside, 4).convertToFormat(QImage::Format_RGB32),
+                  picture.convertToFormat(QImage::Format_RGB32));
+    }
+    EXPECT_TRUE(shell::turnedHalf({}, 4).isNull());
+}
+
+} // namespace
+} // namespace velmoriax::tarot
