@@ -20,10 +20,11 @@ QString text(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-/// Where a window stands that keeps no place of its own: the middle of the screen, wherever the last module stood.
+/// Where a window stands that keeps no place of its own: the middle of the screen, and within it.
 void centre(QWidget& window) {
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
     const QSize size = window.size().boundedTo(area.size());
+    window.resize(size);
     window.move(area.center() - QPoint(size.width() / 2, size.height() / 2));
 }
 
