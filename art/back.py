@@ -4,10 +4,15 @@
 A back must not tell which way up its card lies. Every drawing here is point-symmetric, and because paint noise and the light
 from the upper left are not, the finished picture is joined softly to its own half-turned image.
 """
+import math
+
+import numpy as np
+
 import deck_a
 import deck_c
-from fx import *
-from props import *
+from engraving import dots, radial, ring, rosette, star
+from fx import sstep
+from kit import Scene, circ, pol, poly, rect, ribbon
 
 CENTRE = (300, 540)
 
@@ -124,8 +129,8 @@ def enamel_scene(S):
 
 def major_back(scale):
     """the back that stands for a card of the major arcana"""
-    return symmetrised(deck_a.render(enamel_scene, '', '', 'crimson', lambda S: None, sc=scale, fit=1, oy=0, frame=enamel_frame,
-                                     op=OPENING))
+    return symmetrised(deck_a.render(enamel_scene, '', '', 'crimson', lambda S: None, scale=scale, fit=1, drop=0, frame=enamel_frame,
+                                     opening=OPENING))
 
 
 # ---------- gold engraving on blue ----------
@@ -137,31 +142,31 @@ class Engraving:
     @staticmethod
     def draw(S):
         x, y = CENTRE
-        deck_c.radial(S, x, y, 236, lambda i: (600, 330, 470, 290)[i % 4], 160, 1.8)
+        radial(S, x, y, 236, lambda i: (600, 330, 470, 290)[i % 4], 160, 1.8)
         S.fill(circ(x, y, 236), 'night', 3.4)
-        deck_c.ring(S, x, y, 229, 1.2)
-        deck_c.rosette(S, x, y, 229, 178, 8, .85, 600)
-        deck_c.ring(S, x, y, 178, 1.2)
+        ring(S, x, y, 229, 1.2)
+        rosette(S, x, y, 229, 178, 8, .85, 600)
+        ring(S, x, y, 178, 1.2)
         S.fill(circ(x, y, 172), 'deep', 2.6)
         phases(S, x, y)
         S.fill(circ(x, y, 131), 'ind', 2.6)
-        deck_c.radial(S, x, y, 40, lambda i: 128 if i % 2 else 112, 120, 1.3)
+        radial(S, x, y, 40, lambda i: 128 if i % 2 else 112, 120, 1.3)
         for i in range(16):
             a, tip = i * 22.5, pol(x, y, 94 if i % 2 else 122, i * 22.5)
             S.fill(poly([pol(x, y, 48, a - 9), tip, pol(x, y, 48, a + 9)]), 'deep', 2.4)
             S.fill(poly([pol(x, y, 48, a), tip, pol(x, y, 48, a + 9)]), 'leaf', .8)
         S.fill(circ(x, y, 52), 'deep', 3)
-        deck_c.rosette(S, x, y, 50, 26, 5, .8, 480)
+        rosette(S, x, y, 50, 26, 5, .8, 480)
         S.fill(circ(x, y, 25), 'leaf', 0)
         S.fill(circ(x, y, 20), 'deep', 0)
-        deck_c.star(S, x, y, 17, 8, .38)
+        star(S, x, y, 17, 8, .38)
         for c in quarters(S):
             with c:
                 corner_moon(S)
         for d in (-1, 1):
-            deck_c.star(S, x, y + d * 400, 34, 8, .3)
+            star(S, x, y + d * 400, 34, 8, .3)
             S.stroke(circ(x, y + d * 400, 44), 1.4)
-            deck_c.dots(S, x, y + d * 400, 39, 32, 1.2)
+            dots(S, x, y + d * 400, 39, 32, 1.2)
 
 
 def phases(S, x, y):
@@ -172,19 +177,19 @@ def phases(S, x, y):
         f = math.cos(math.radians(i * 45))
         S.fill(circ(px, py, r), 'deep', 1.8)
         with S.at(px, py, 1, i * 22.5 + 90):
-            S.add(k='line', d=f'M0 {-r}A{r} {r} 0 0 1 0 {r}A{max(.1, abs(f) * r):.2f} {r} 0 0 {0 if f > 0 else 1} 0 {-r}Z')
+            S.add('line', f'M0 {-r}A{r} {r} 0 0 1 0 {r}A{max(.1, abs(f) * r):.2f} {r} 0 0 {0 if f > 0 else 1} 0 {-r}Z')
 
 
 def corner_moon(S):
     """crescent in a guilloche ring with stars strewn around"""
     S.fill(circ(-150, -338, 62), 'night', 2.6)
-    deck_c.ring(S, -150, -338, 56, 1.1)
-    deck_c.rosette(S, -150, -338, 56, 36, 4, .8, 400)
+    ring(S, -150, -338, 56, 1.1)
+    rosette(S, -150, -338, 56, 36, 4, .8, 400)
     S.fill(circ(-150, -338, 35), 'deep', 2)
-    S.add(k='line', d='M-144 -364A26 26 0 1 0 -126 -326A22 22 0 1 1 -144 -364Z')
+    S.add('line', 'M-144 -364A26 26 0 1 0 -126 -326A22 22 0 1 1 -144 -364Z')
     for x, y, r in ((-60, -420, 9), (-236, -420, 8), (-236, -250, 9), (-40, -300, 7), (-215, -170, 6), (-90, -462, 5), (-200, -470, 5),
                     (-248, -340, 5), (-20, -470, 7), (-70, -258, 5)):
-        deck_c.star(S, x, y, r * 1.3, 4, .2)
+        star(S, x, y, r * 1.3, 4, .2)
 
 
 def engraved_frame(_num, _letter, _glyph):
@@ -197,7 +202,7 @@ def engraved_frame(_num, _letter, _glyph):
         with F.at(x, y, 1, rot):
             F.fill('M0 0H94A94 94 0 0 1 0 94Z', 'deep', 2.4)
             F.stroke('M84 0A84 84 0 0 1 0 84', 1.4)
-            deck_c.radial(F, 0, 0, 22, 78, 13, 2.6, 3, 93, 'both')
+            radial(F, 0, 0, 22, 78, 13, 2.6, 3, 93, 'both')
             F.fill('M0 0H20A20 20 0 0 1 0 20Z', 'leaf', 0)
             for i in range(11):
                 F.dot(*pol(0, 0, 89, 4.1 + i * 8.18), 1.7)
@@ -206,4 +211,4 @@ def engraved_frame(_num, _letter, _glyph):
 
 def suit_back(scale):
     """the back shown on the places of the four suits"""
-    return symmetrised(deck_c.render(Engraving, sc=scale, frame=engraved_frame))
+    return symmetrised(deck_c.render(Engraving, scale=scale, frame=engraved_frame))

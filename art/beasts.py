@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """beasts, wings and bare or sleeved limbs: what several of the figure scenes share; every part is drawn around its own origin"""
-from props import *
+import math
+
+from drawing import *      # the vocabulary of scenes, see drawing.py
 
 
 # ---------- limbs ----------
@@ -21,8 +23,8 @@ def shade(S, pts, widths, n=9, reach=.34, w=4, away=(.7, .7), span=(.04, .96)):
         t = span[0] + (span[1] - span[0]) * (i + .5) / n
         j = round(t * (len(ps) - 1))
         p, q, h = ps[j], ns[j], width_at(widths, t) / 2 * side
-        r = h * (1 - 2 * reach * S.rnd.uniform(.75, 1.15))
-        S.line([(p[0] + q[0] * h, p[1] + q[1] * h), (p[0] + q[0] * r, p[1] + q[1] * r)], w, 'end', k='hatch', n=3)
+        r = h * (1 - 2 * reach * S.random.uniform(.75, 1.15))
+        S.line([(p[0] + q[0] * h, p[1] + q[1] * h), (p[0] + q[0] * r, p[1] + q[1] * r)], w, 'end', kind='hatch', n=3)
 
 
 def bare(S, pts, widths, lw=4.5, caps='s', pig='flesh', n=9, w=3.2):
@@ -113,7 +115,7 @@ def bat_wing(S, x, y, k=1, flip=False, skin='blue', ribs='gold'):
             m = ((p[0] + wrist[0]) / 2 - 14 + i * 4, (p[1] + wrist[1]) / 2 + 2)
             for u in (.3, .5, .7, .88):
                 a = (wrist[0] + (p[0] - wrist[0]) * u, wrist[1] + (p[1] - wrist[1]) * u)
-                S.line([a, (a[0] + 14 + 8 * i, a[1] + 26 - 3 * i)], 4.4, 'end', k='hatch')
+                S.line([a, (a[0] + 14 + 8 * i, a[1] + 26 - 3 * i)], 4.4, 'end', kind='hatch')
             S.limb([wrist, m, p], [13, 9, 5], ribs, 3.6)
         S.limb([(8, 30), (-30, -50), wrist], [30, 20, 16], ribs, 4.4, 's')
         S.fill([(wrist[0] + 8, wrist[1] + 6, 'c'), (wrist[0] + 4, wrist[1] - 16), (wrist[0] - 14, wrist[1] - 30, 'c'),
@@ -324,7 +326,7 @@ def dog_howling(S, x, y, k=1, flip=False, pig='white', collar='red'):
         S.limb([(-14, -46), (14, -32), (48, -42)], [16, 16, 16], collar, 3.8)
         S.fill(circ(20, -22, 7), 'gold', 3.2)
         for p in ([(-22, -6), (-36, 22), (-44, 48)], [(-8, 4), (-16, 24), (-22, 36)], [(44, -18), (42, 4), (36, 22)]):
-            S.line(p, 4, 'end', k='hatch')
+            S.line(p, 4, 'end', kind='hatch')
         S.comb([(-62, 60), (-60, 84), (-50, 104)], 0, 16, 7, 3.6)
 
 
@@ -351,5 +353,5 @@ def dog_leaping(S, x, y, k=1, flip=False, pig='white', collar='red'):
         S.limb([(24, -80), (44, -64), (70, -66)], [16, 16, 16], collar, 3.8)
         S.fill(circ(54, -54, 7), 'gold', 3.2)
         for p in ([(-36, -20), (-54, 10), (-60, 32)], [(-22, -14), (-34, 10), (-38, 24)], [(0, -46), (-14, -30), (-22, -14)]):
-            S.line(p, 4, 'end', k='hatch')
+            S.line(p, 4, 'end', kind='hatch')
         S.comb([(58, -6), (24, 32), (-10, 66)], 230, 18, 10, 4)

@@ -3,9 +3,10 @@
 import numpy as np
 from scipy import ndimage as nd
 
-from deck_c import GOLDC, rosette, star
+from deck_c import GOLD
+from engraving import rosette, star
 from fx import fbm, hexf, mix, ramp, raster
-from glyphs import ZOD, glyph
+from glyphs import SIGNS, glyph
 from kit import Layer, Scene, circ, pol
 
 SKY = [(0, '#05081c'), (.4, '#0c1338'), (.7, '#1b2460'), (1, '#3a3486')]
@@ -21,7 +22,7 @@ def wheel(x, y):
     scene = Scene(2)
     for radius, width in ((372, 2.2), (364, 1), (306, 1), (300, 2.2), (150, 1.4)):
         scene.stroke(circ(x, y, radius), width)
-    for i, name in enumerate(ZOD):
+    for i, name in enumerate(SIGNS):
         glyph(scene, name, *pol(x, y, 335, 165 - 30 * i), .36, 12)
         scene.line([pol(x, y, 306, i * 30), pol(x, y, 364, i * 30)], 1.6, 'flat')
     for i in range(144):
@@ -33,9 +34,9 @@ def wheel(x, y):
 
 def outline(item):
     """Everything white; closed shapes as hairlines only."""
-    if item['k'] == 'stroke':
-        return f'fill="none" stroke="#fff" stroke-width="{item["w"]}"'
-    if item['k'] == 'fill':
+    if item.kind == 'stroke':
+        return f'fill="none" stroke="#fff" stroke-width="{item.w}"'
+    if item.kind == 'fill':
         return 'fill="none" stroke="#fff" stroke-width="1.2"'
     return 'fill="#fff"'
 
@@ -60,6 +61,6 @@ def night(w=1280, h=800):
     layer.put(wheel(.68 * w, h / 2).items, outline)
     lines = raster(layer.svg(), 1, w)[..., 3]
     row, column = np.mgrid[0:h, 0:w].astype(np.float32)
-    gold = ramp(np.clip(.55 + .25 * np.sin((column + row) / 180) + .1 * fbm((h, w), 60, rng, 2), 0, 1), GOLDC)
+    gold = ramp(np.clip(.55 + .25 * np.sin((column + row) / 180) + .1 * fbm((h, w), 60, rng, 2), 0, 1), GOLD)
     glow = nd.gaussian_filter(lines, 7)[..., None] * hexf(LAMP) * .25
     return np.clip(mix(image + glow, gold, lines * .62), 0, 1)

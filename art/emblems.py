@@ -4,8 +4,11 @@
 Every part is drawn around its own origin. In `chased` mode gold shapes get dark contours, as if cut into leaf; everywhere
 else shapes are dark with gold contours.
 """
+import math
 from contextlib import contextmanager
-from deck_c import *
+
+from drawing import *      # the vocabulary of scenes, see drawing.py
+from engraving import *      # the vocabulary of scenes, see drawing.py
 
 
 # ---------- drawing aids ----------
@@ -25,11 +28,11 @@ def sym(half):
 @contextmanager
 def chased(S):
     """dark drawing on solid gold"""
-    S.inv = True
+    S.chased = True
     try:
         yield
     finally:
-        S.inv = False
+        S.chased = False
 
 
 def both(S, pts, w=2, prof='both'):
@@ -133,12 +136,12 @@ def water(S, y0, y1, n=14, x0=36, x1=564, amp=4, pig='deep'):
     for i in range(n):
         f = (i / n) ** 1.5
         y, length, a = y0 + 4 + (y1 - y0) * f, 26 + 60 * f, amp * (.35 + f)
-        x = x0 - S.rnd.uniform(0, length)
+        x = x0 - S.random.uniform(0, length)
         while x < x1:
-            reach = length * S.rnd.uniform(1.4, 3.2)
+            reach = length * S.random.uniform(1.4, 3.2)
             m = max(2, round(reach / length * 4))
             S.line([(x + reach * j / m, y + a * math.sin(j * math.pi / 2 + i)) for j in range(m + 1)], 2.2 + f)
-            x += reach + length * S.rnd.uniform(.2, .7)
+            x += reach + length * S.random.uniform(.2, .7)
 
 
 def puffs(S, places, pig='night'):

@@ -1,56 +1,116 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""raster finishing: numpy + scipy on layers rendered by rsvg-convert"""
-import numpy as np, subprocess, io
-from scipy import ndimage as nd
+"""What the finishing of pictures is made of: SVG to pixels, noise, blending, colour ramps, paper.
+
+Pictures are float arrays of height x width (x channels) with values 0 to 1; masks and noise have no channels. Everything that
+looks random draws from a numpy generator that the caller hands in, so the order of the calls is part of a picture.
+"""
+import io
+import subprocess
+
+import numpy as np
 from PIL import Image
+from scipy import ndimage as nd
 
-def raster(svg, sc=2, W=600):
-    p = subprocess.run(['rsvg-convert', '-w', str(int(W*sc))], input=svg.encode(), capture_output=True, check=True)
-    return np.asarray(Image.open(io.BytesIO(p.stdout)).convert('RGBA'), dtype=np.float32)/255
+OCTAVE_GAIN = .55               # strength of each finer octave of noise
+FOXING_SPOTS = 7
 
-def hexf(h): return np.array([int(h[i:i+2], 16) for i in (1, 3, 5)], np.float32)/255
 
-def noise(shape, cell, rng, ay=1):
-    """smooth value noise -1..1, cell = feature size in px; computed coarse (cubic), enlarged linearly"""
-    h, w = shape; f = max(1, int(min(cell, cell*ay)/4)); hh, ww = h//f+2, w//f+2
-    gy, gx = int(h/(cell*ay))+4, int(w/cell)+4
-    g = rng.standard_normal((gy, gx)).astype(np.float32)
-    im = Image.fromarray(g, 'F').resize((ww, hh), Image.BICUBIC, box=(1, 1, 1+ww*f/cell, min(gy-.5, 1+hh*f/(cell*ay))))
-    if f > 1: im = im.resize((ww*f, hh*f), Image.BILINEAR)
-    return np.clip(np.asarray(im)[:h, :w]/1.6, -1, 1)
+def raster(svg, scale=2, width=600):
+    """RGBA pixels of a drawing that is `width` units wide, at `scale` pixels a unit."""
+    png = subprocess.run(['rsvg-convert', '-w', str(int(width * scale))], input=svg.encode(), capture_output=True, check=True)
+    return np.asarray(Image.open(io.BytesIO(png.stdout)).convert('RGBA'), dtype=np.float32) / 255
 
-def fbm(shape, cell, rng, n=4, ay=1):
-    t = 0; a = 1; s = 0
-    for i in range(n): t = t+a*noise(shape, max(2, cell/2**i), rng, ay); s += a; a *= .55
-    return t/s*1.6
 
-def warp(img, dx, dy):
-    h, w = img.shape[:2]; yy, xx = np.mgrid[0:h, 0:w].astype(np.float32)
-    c = [yy+dy, xx+dx]
-    if img.ndim == 2: return nd.map_coordinates(img, c, order=1, mode='nearest')
-    return np.stack([nd.map_coordinates(img[..., k], c, order=1, mode='nearest', prefilter=False) for k in range(img.shape[2])], -1)
+def hexf(colour):
+    """#rrggbb as three floats."""
+    return np.array([int(colour[i:i + 2], 16) for i in (1, 3, 5)], np.float32) / 255
 
-def sstep(a, b, x): t = np.clip((x-a)/(b-a), 0, 1); return t*t*(3-2*t)
-def mix(a, b, t): 
-    t = t[..., None] if getattr(t, 'ndim', 0) == 2 else t
-    return a*(1-t)+b*t
-def ramp(v, stops):
-    xs = [s[0] for s in stops]; cs = np.array([hexf(s[1]) for s in stops]); return np.stack([np.interp(v, xs, cs[:, k]) for k in range(3)], -1).astype(np.float32)
 
+def grid(shape):
+    """Row and column of each pixel."""
+    return np.mgrid[0:shape[0], 0:shape[1]].astype(np.float32)
+
+
+# ---------- noise ----------
+def noise(shape, cell, rng, stretch=1):
+    """Smooth noise -1 to 1 whose features are about `cell` pixels wide and `stretch` times as high. Computed on a coarser grid
+    with cubic interpolation and enlarged linearly, which is not to be seen and several times as fast."""
+    h, w = shape
+    tall = cell * stretch
+    coarseness = max(1, int(min(cell, tall) / 4))
+    coarse_h, coarse_w = h // coarseness + 2, w // coarseness + 2
+    rows, columns = int(h / tall) + 4, int(w / cell) + 4
+    values = rng.standard_normal((rows, columns)).astype(np.float32)
+    box = (1, 1, 1 + coarse_w * coarseness / cell, min(rows - .5, 1 + coarse_h * coarseness / tall))
+    image = Image.fromarray(values, 'F').resize((coarse_w, coarse_h), Image.BICUBIC, box=box)
+    if coarseness > 1:
+        image = image.resize((coarse_w * coarseness, coarse_h * coarseness), Image.BILINEAR)
+    return np.clip(np.asarray(image)[:h, :w] / 1.6, -1, 1)
+
+
+def fbm(shape, cell, rng, octaves=4, stretch=1):
+    """Noise of several octaves, the coarsest of the size `cell`."""
+    total, gain, gains = 0, 1, 0
+    for i in range(octaves):
+        total = total + gain * noise(shape, max(2, cell / 2 ** i), rng, stretch)
+        gains += gain
+        gain *= OCTAVE_GAIN
+    return total / gains * 1.6
+
+
+# ---------- arrays ----------
+def warp(image, dx, dy):
+    """The picture with each pixel taken from dx, dy pixels beside it."""
+    row, column = grid(image.shape[:2])
+    source = [row + dy, column + dx]
+    if image.ndim == 2:
+        return nd.map_coordinates(image, source, order=1, mode='nearest')
+    return np.stack([nd.map_coordinates(channel, source, order=1, mode='nearest') for channel in np.moveaxis(image, -1, 0)], -1)
+
+
+def sstep(low, high, x):
+    """Smooth step from 0 at low to 1 at high."""
+    t = np.clip((x - low) / (high - low), 0, 1)
+    return t * t * (3 - 2 * t)
+
+
+def mix(a, b, share):
+    """a where the share is 0, b where it is 1; the share may be a number or a mask."""
+    share = share[..., None] if getattr(share, 'ndim', 0) == 2 else share
+    return a * (1 - share) + b * share
+
+
+def ramp(values, stops):
+    """Colours of a gradient: stops are (value, '#rrggbb') in rising order."""
+    at = [value for value, _ in stops]
+    colours = np.array([hexf(colour) for _, colour in stops])
+    return np.stack([np.interp(values, at, colours[:, channel]) for channel in range(3)], -1).astype(np.float32)
+
+
+# ---------- paper ----------
 def paper(shape, rng, base='#ecdcb6', dark='#b8925a'):
-    h, w = shape; yy, xx = np.mgrid[0:h, 0:w].astype(np.float32)
-    t = .5+.35*fbm(shape, w/5, rng)+.12*fbm(shape, 26, rng, 3)
-    p = mix(hexf(base)*np.ones((h, w, 3), np.float32), hexf(dark), np.clip(t-.55, 0, 1)*.5)
-    edge = np.minimum(np.minimum(xx, w-xx), np.minimum(yy, h-yy))/w
-    p = mix(p, hexf(dark), np.clip(1-edge/.075-.25*fbm(shape, 90, rng), 0, 1)**2*.5)
-    f = nd.gaussian_filter(rng.standard_normal(shape).astype(np.float32), (1.2, 4.5)); p *= (1+.012*f/f.std())[..., None]
-    sp = sstep(.9990, .99995, rng.random(shape).astype(np.float32)); sp = nd.gaussian_filter(sp, 1.3); p *= (1-np.clip(sp*2.2, 0, .35))[..., None]
-    for _ in range(7):    # foxing
-        cx, cy, r = rng.uniform(0, w), rng.uniform(0, h), rng.uniform(4, 13)
-        m = np.exp(-((xx-cx)**2+(yy-cy)**2)/(2*r*r))*(.7+.4*rng.random()); p = mix(p, hexf('#a8763c'), np.clip(m, 0, 1)*.3)
-    return np.clip(p, 0, 1)
+    """A sheet of old handmade paper: cloudy, browned along the edges, with fibres, specks and a few spots of foxing."""
+    h, w = shape
+    row, column = grid(shape)
+    cloud = .5 + .35 * fbm(shape, w / 5, rng) + .12 * fbm(shape, 26, rng, 3)
+    sheet = mix(hexf(base) * np.ones((h, w, 3), np.float32), hexf(dark), np.clip(cloud - .55, 0, 1) * .5)
+    from_edge = np.minimum(np.minimum(column, w - column), np.minimum(row, h - row)) / w
+    sheet = mix(sheet, hexf(dark), np.clip(1 - from_edge / .075 - .25 * fbm(shape, 90, rng), 0, 1) ** 2 * .5)
+    fibres = nd.gaussian_filter(rng.standard_normal(shape).astype(np.float32), (1.2, 4.5))
+    sheet *= (1 + .012 * fibres / fibres.std())[..., None]
+    specks = nd.gaussian_filter(sstep(.9990, .99995, rng.random(shape).astype(np.float32)), 1.3)
+    sheet *= (1 - np.clip(specks * 2.2, 0, .35))[..., None]
+    for _ in range(FOXING_SPOTS):
+        x, y, r = rng.uniform(0, w), rng.uniform(0, h), rng.uniform(4, 13)
+        spot = np.exp(-((column - x) ** 2 + (row - y) ** 2) / (2 * r * r)) * (.7 + .4 * rng.random())
+        sheet = mix(sheet, hexf('#a8763c'), np.clip(spot, 0, 1) * .3)
+    return np.clip(sheet, 0, 1)
 
-def save(img, path, w=None, q=88):
-    im = Image.fromarray((np.clip(img, 0, 1)*255+.5).astype(np.uint8))
-    if w: im = im.resize((w, round(w*im.height/im.width)), Image.LANCZOS)
-    im.save(path, **({'quality': q, 'optimize': True, 'subsampling': 0} if path.endswith('jpg') else {}))
+
+def save(image, path, width=None, quality=88):
+    """Writes a picture, reduced to a width in pixels if one is given; the quality concerns JPEG alone."""
+    picture = Image.fromarray((np.clip(image, 0, 1) * 255 + .5).astype(np.uint8))
+    if width:
+        picture = picture.resize((width, round(width * picture.height / picture.width)), Image.LANCZOS)
+    options = {'quality': quality, 'optimize': True, 'subsampling': 0} if path.endswith('jpg') else {}
+    picture.save(path, **options)

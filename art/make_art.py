@@ -42,26 +42,26 @@ def seed_of(name):
 def major_a(number, scale):
     import deck_a
     m = scene_module('majors', number)
-    return m and deck_a.render(m.draw, m.NUM, m.TITLE, m.FIELD, getattr(deck_a, m.PATTERN), sc=scale)
+    return m and deck_a.render(m.draw, m.NUM, m.TITLE, m.FIELD, getattr(deck_a, m.PATTERN), scale=scale)
 
 
 def major_b(number, scale):
     import deck_b
     m = scene_module('majors', number)
-    return m and deck_b.render(m.draw, m.NUM, m.TITLE, seed=seed_of(MAJORS[number - 1]), sc=scale)
+    return m and deck_b.render(m.draw, m.NUM, m.TITLE, seed=seed_of(MAJORS[number - 1]), scale=scale)
 
 
 def major_c(number, scale):
     import deck_c
     m = scene_module('esoteric', number)
-    return m and deck_c.render(m, sc=scale)
+    return m and deck_c.render(m, scale=scale)
 
 
 def minor(suit, index, scale):
     import deck_b
     from minors import pips, courts
     m = pips.card(suit, index) if index <= 10 else courts.card(suit, COURTS[index - 11])
-    return m and deck_b.render(m.draw, m.num, m.title, seed=seed_of(suit) + 31 * index, sc=scale)
+    return m and deck_b.render(m.draw, m.num, m.title, seed=seed_of(suit) + 31 * index, scale=scale)
 
 
 def card_back(name, scale):

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """What rulers, judges and travellers of the trumps have in common: clothed arms, beards, regalia, wings, furniture."""
-from props import *
+import math
+
+from drawing import *      # the vocabulary of scenes, see drawing.py
 
 
 def halves(S, x=300):

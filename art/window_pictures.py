@@ -17,9 +17,10 @@ from PIL import Image
 from scipy import ndimage as nd
 
 import bg
-from deck_c import GOLDC, rosette, star
+from deck_c import GOLD
+from engraving import rosette, star
 from fx import fbm, mix, ramp, raster, save
-from glyphs import ZOD, glyph
+from glyphs import SIGNS, glyph
 from kit import Layer, Scene, circ, pol, poly, rect
 
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
@@ -62,7 +63,7 @@ def wheel(scene, x, y, r):
     """A part of the zodiac wheel; what leaves the picture is cut."""
     for radius, width in ((r, 1.1), (r * .97, .5), (r * .78, .5), (r * .76, 1.1)):
         scene.stroke(circ(x, y, radius), width)
-    for i, name in enumerate(ZOD):
+    for i, name in enumerate(SIGNS):
         glyph(scene, name, *pol(x, y, r * .873, 165 - 30 * i), r * .0013, 13)
         scene.line([pol(x, y, r * .78, 30 * i), pol(x, y, r * .97, 30 * i)], .8, 'flat')
     rosette(scene, x, y, r * .72, r * .42, 7, .35, 480)
@@ -92,7 +93,7 @@ def orbit(scene, w, h):
     """Two orbits that run out of the right-hand edge, each with its planet."""
     for r, width, at in ((92, .9, 202), (62, .7, 160)):
         scene.stroke(circ(w + 6, h / 2, r), width)
-        scene.add(k='leaf', d=circ(*pol(w + 6, h / 2, r, at), 4 if r > 80 else 2.8))
+        scene.add('leaf', circ(*pol(w + 6, h / 2, r, at), 4 if r > 80 else 2.8))
     star(scene, w - 28, h / 2, 15, 8, .36)
 
 
@@ -106,7 +107,7 @@ BACKS = {  # name: width and height of the window, what lies behind the text, ho
 def mask_of(scene, w, h):
     """Coverage 0 to 1 of the lines of a scene."""
     layer = Layer(w, h)
-    layer.put(scene.items, lambda i: f'fill="none" stroke="#fff" stroke-width="{i["w"]}"' if i['k'] == 'stroke' else 'fill="#fff"')
+    layer.put(scene.items, lambda mark: f'fill="none" stroke="#fff" stroke-width="{mark.w}"' if mark.kind == 'stroke' else 'fill="#fff"')
     return raster(layer.svg(), SCALE, w)[..., 3]
 
 
@@ -116,7 +117,7 @@ def back(w, h, motif, strength, seed):
     behind, rules, opening = Scene(seed), Scene(seed), Scene(seed)
     motif(behind, w, h)
     frame(rules, w, h)
-    opening.add(k='leaf', d=rect(9, 9, w - 18, h - 18, 3))
+    opening.add('leaf', rect(9, 9, w - 18, h - 18, 3))
     faint, bright = mask_of(behind, w, h) * mask_of(opening, w, h), mask_of(rules, w, h)
     shape = faint.shape
     row, column = np.mgrid[0:shape[0], 0:shape[1]].astype(np.float32)
@@ -125,9 +126,9 @@ def back(w, h, motif, strength, seed):
     dots = nd.gaussian_filter((rng.random(shape) > .9993).astype(np.float32), .8)
     image = image + (dots * .9)[..., None] * bg.STARLIGHT
     sheen = .22 * np.sin((column + row) / 120) + .1 * fbm(shape, 50, rng, 2)
-    image = mix(image, ramp(np.clip(.45 + .5 * sheen, 0, 1), GOLDC), faint * strength)
+    image = mix(image, ramp(np.clip(.45 + .5 * sheen, 0, 1), GOLD), faint * strength)
     image = image + nd.gaussian_filter(bright, 5)[..., None] * np.array([.30, .21, .09], np.float32)
-    return np.clip(mix(image, ramp(np.clip(.58 + sheen, 0, 1), GOLDC), bright * FRAME), 0, 1)
+    return np.clip(mix(image, ramp(np.clip(.58 + sheen, 0, 1), GOLD), bright * FRAME), 0, 1)
 
 
 def render(svg, size, path):

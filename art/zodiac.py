@@ -43,8 +43,8 @@ def mask_of(body):
 def glyph_mask(name):
     scene = Scene(1)
     with scene.at(UNITS / 2, UNITS / 2, .67):
-        for stroke in WATER_BEARER if name == 'aquarius' else glyphs.ZOD[name]:
-            scene.add(k='leaf', d=glyphs.nib(stroke, NIB))
+        for stroke in WATER_BEARER if name == 'aquarius' else glyphs.SIGNS[name]:
+            scene.add('leaf', glyphs.nib(stroke, NIB))
     layer = Layer(UNITS, UNITS)
     layer.put(scene.items, lambda item: 'fill="#fff"')
     return raster(layer.svg(), FULL / UNITS, UNITS)[..., 3]
@@ -100,7 +100,7 @@ def make(data_dir):
     """Writes signos/Aries_sm.gif to Piscis_sm.gif."""
     target = os.path.join(data_dir, 'signos')
     os.makedirs(target, exist_ok=True)
-    for i, (name, stem) in enumerate(zip(glyphs.ZOD, STEMS)):
+    for i, (name, stem) in enumerate(zip(glyphs.SIGNS, STEMS)):
         save_gif(medallion(name, ELEMENTS[i % 4]), os.path.join(target, stem + '_sm.gif'))
 
 

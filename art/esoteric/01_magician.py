@@ -1,5 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-from deck_c import *
+import math
+
+from drawing import *      # the vocabulary of scenes, see drawing.py
+from engraving import *      # the vocabulary of scenes, see drawing.py
 NUM, HEB, GLYPH, FOCUS = 'I', 'ב', 'mercury', (300, 350)
 def rose(S, x, y, k=1):
     with S.at(x, y, k):

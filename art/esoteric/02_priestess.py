@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The High Priestess: horned moon crown between the pillars of severity and mercy, the veil of pomegranates, the half-seen scroll."""
-from emblems import *
+import math
+
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'II', 'ג', 'moon', (300, 320)
 

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Empress: heart-shaped shield of Venus under a crown, twelve stars about it; wheat sheaves and pomegranates below."""
-from emblems import *
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'III', 'ד', 'venus', (300, 370)
 

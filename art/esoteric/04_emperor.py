@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Emperor: golden ram's head over the cubic stone of rule, which bears the orb; two sceptres and barren peaks behind."""
-from emblems import *
+import math
+
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'IV', 'ה', 'aries', (300, 340)
 

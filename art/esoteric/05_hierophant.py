@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Hierophant: hand raised in blessing within a lancet window under a rose; triple cross and crossed keys before the altar steps."""
-from emblems import *
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'V', 'ו', 'taurus', (300, 400)
 
@@ -51,7 +51,7 @@ def tracery(S):
         S.line([pol(x, y, 26, 30 * i + 15), pol(x, y, 46, 30 * i + 15)], 2, 'flat')
     S.fill(circ(x, y, 30), 'leaf', 2.4)
     with chased(S):
-        glyph(S, 'taurus', x, y + 1, .42, 14, put=lambda d: S.add(k='line', d=d))
+        glyph(S, 'taurus', x, y + 1, .42, 14, kind='line')
 
 
 def key(S, side):

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Lovers: winged heart pierced by an arrow; below two hands, one of the sun and one of the moon, hold one ring between two trees."""
-from emblems import *
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'VI', 'ז', 'gemini', (300, 350)
 

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Chariot: winged wheel under a starry canopy on four posts, drawn by a bright and a dark sphinx; the crab of the sign between them."""
-from emblems import *
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'VII', 'ח', 'cancer', (300, 430)
 
@@ -60,7 +60,7 @@ def wheel(S, x, y, R):
     S.fill(circ(x, y, 32), 'leaf', 2.6)
     with chased(S):
         ring(S, x, y, 26, 2)
-        glyph(S, 'sun', x, y, .34, 15, put=lambda d: S.add(k='line', d=d))
+        glyph(S, 'sun', x, y, .34, 15, kind='line')
 
 
 def crab(S, x, y, k):

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Justice: upright sword as the post of a balance that weighs a heart against a feather, crowned ring above, measured floor below."""
-from emblems import *
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'VIII', 'ל', 'libra', (300, 360)
 
@@ -22,7 +22,7 @@ def sword(S):
     S.fill(circ(300, 900, 26), 'leaf', 2.8)
     with chased(S):
         ring(S, 300, 900, 19, 2)
-        glyph(S, 'libra', 300, 899, .25, 16, put=lambda d: S.add(k='line', d=d))
+        glyph(S, 'libra', 300, 899, .25, 16, kind='line')
 
 
 def pan(S, side):

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Hermit: lantern with the six-point star hung from a serpent staff that stands on the highest of snowy peaks; a path winds up."""
-from emblems import *
+import math
+
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'IX', 'י', 'virgo', (300, 350)
 

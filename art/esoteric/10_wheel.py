@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Wheel of Fortune: alchemical wheel with the sphinx above, the serpent going down and the jackal rising; two horns of plenty."""
-from emblems import *
+import math
+
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'X', 'כ', 'jupiter', (300, 420)
 
@@ -49,7 +51,7 @@ def wheel(S, x, y):
     S.fill(circ(x, y, 36), 'leaf', 2.6)
     with chased(S):
         ring(S, x, y, 31, 1.8)
-        glyph(S, 'jupiter', x, y, .42, 14, put=lambda d: S.add(k='line', d=d))
+        glyph(S, 'jupiter', x, y, .42, 14, kind='line')
 
 
 def serpent(S, x, y):

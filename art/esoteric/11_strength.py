@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Strength: the golden lion held between two gentle hands, the lemniscate above, a chain of roses as his only bond."""
-from emblems import *
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'XI', 'ט', 'leo', (300, 400)
 

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Hanged Man: a rope from the living tau holds cross and inverted triangle; the rayed head shines upside down over the water."""
-from emblems import *
+import math
+
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'XII', 'מ', 'water', (300, 690)
 

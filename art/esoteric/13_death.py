@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Death: golden skull before two crossed scythes; beneath it the white rose blooms and the sun rises over the river between two towers."""
-from emblems import *
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'XIII', 'נ', 'scorpio', (300, 360)
 

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Temperance: water passes from the vessel of the sun to that of the moon below a winged sun in the rainbow; irises at the pool."""
-from emblems import *
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'XIV', 'ס', 'sagittarius', (300, 330)
 
@@ -44,7 +44,7 @@ def vessel(S, x, y, rot, sign, flip=False):
     with S.at(x, y, 1, rot, flip):
         for s in (-1, 1):
             S.stroke(path([(s * 28, -78), (s * 74, -82), (s * 78, -34), (s * 54, -14)], False), 15)
-            S.add(k='fill', d=poly(ribbon([(s * 28, -78), (s * 70, -80), (s * 75, -36), (s * 54, -14)], lambda t: 5)), pig='deep', w=0)
+            S.fill(poly(ribbon([(s * 28, -78), (s * 70, -80), (s * 75, -36), (s * 54, -14)], lambda t: 5)), 'deep', 0)
         S.fill(sym([(0, -92), (38, -92, 'c'), (30, -74), (26, -58), (52, -34), (62, 2), (48, 46), (22, 72), (30, 92, 'c'), (0, 94)]),
                'ind', 3.4)
         for yy, w in ((-60, 27), (-40, 47), (32, 55), (44, 49), (72, 23)):
@@ -56,7 +56,7 @@ def vessel(S, x, y, rot, sign, flip=False):
         S.fill(circ(0, 10, 25), 'leaf', 2.8)
         with chased(S):
             ring(S, 0, 10, 20, 1.8)
-            glyph(S, sign, 0, 10, .27, 16, put=lambda d: S.add(k='line', d=d))
+            glyph(S, sign, 0, 10, .27, 16, kind='line')
         S.fill(circ(0, -92, 38, 8), 'leaf', 2.6)
         S.fill(circ(0, -92, 29, 4.6), 'dark', 1.4)
         for i in range(7):

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Devil: goat's head in the inverted pentagram on bat's wings; loose chains from the half-cube's ring, torches turned down."""
-from emblems import *
+import math
+
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'XV', 'ע', 'capricorn', (300, 400)
 

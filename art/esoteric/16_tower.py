@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-from deck_c import *
+from drawing import *      # the vocabulary of scenes, see drawing.py
+from engraving import *      # the vocabulary of scenes, see drawing.py
 NUM, HEB, GLYPH, FOCUS = 'XVI', 'פ', 'mars', (300, 330)
 def yod(S, x, y, k):
     with S.at(x, y, k): S.fill([(-7, -10, 'c'), (2, -9), (8, -4), (6, 8), (-3, 16, 'c'), (0, 6), (-2, 0), (-8, -2)], 'leaf', 0)

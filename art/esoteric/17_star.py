@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Star: great eight-point star among the seven; two urns pour, into the round pool, roses and reeds on its bank."""
-from emblems import *
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'XVII', 'צ', 'aquarius', (300, 350)
 
@@ -21,7 +21,7 @@ def great_star(S, x, y):
     S.fill(circ(x, y, 30), 'leaf', 2.4)
     with chased(S):
         ring(S, x, y, 25, 1.8)
-        glyph(S, 'aquarius', x, y, .34, 15, put=lambda d: S.add(k='line', d=d))
+        glyph(S, 'aquarius', x, y, .34, 15, kind='line')
 
 
 def small_star(S, x, y, r):

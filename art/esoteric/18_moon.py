@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Moon: a face in the crescent sheds drops of light between two towers; dog and wolf howl, the crayfish climbs from the pool."""
-from emblems import *
+import math
+
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'XVIII', 'ק', 'pisces', (300, 320)
 

@@ -1,5 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-from deck_c import *
+import math
+
+from drawing import *      # the vocabulary of scenes, see drawing.py
+from engraving import *      # the vocabulary of scenes, see drawing.py
 NUM, HEB, GLYPH, FOCUS = 'XIX', 'ר', 'sun', (300, 400)
 def sleeve(S, d):
     with S.at(300, 0, 1, 0, d > 0):
@@ -32,7 +35,7 @@ def draw(S):
         else:
             A = math.radians(a); P = lambda u, v: (x+math.cos(A)*u-math.sin(A)*v, y+math.sin(A)*u+math.cos(A)*v)
             S.fill(poly(ribbon([P(90, 0), P(108, 8), P(128, -8), P(146, 6), P(162, -2)], lambda t: 23*(1-t)**.9+.5)), 'deep', 3); S.line([P(92, 0), P(108, 8), P(128, -8), P(142, 4)], 2.2, 'end')
-    S.inv = True; sunface(S, x, y, .94); S.inv = False
+    S.chased = True; sunface(S, x, y, .94); S.chased = False
     ring(S, x, y, 99, 2.4)
     # horizon hills
     for j, (h, f) in enumerate(((700, 'night'), (748, 'deep'))):

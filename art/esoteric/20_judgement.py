@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Judgement: winged trumpet with the banner of the cross sounding out of the cloud; hands rise from the waters and from flaming graves."""
-from emblems import *
+import math
+
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'XX', 'ש', 'fire', (300, 330)
 

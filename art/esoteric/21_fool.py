@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Fool: butterfly before the sun over the abyss; staff with bundle, white rose and small dog on the cliff's edge."""
-from emblems import *
+import math
+
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'XXI', 'א', 'air', (300, 330)
 

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The World: globe and star in the oval wreath tied with crossed ribbons; man, eagle, bull and lion hold the corners."""
-from emblems import *
+import math
+
+from emblems import *      # the vocabulary of scenes, see drawing.py
 
 NUM, HEB, GLYPH, FOCUS = 'XXII', 'ת', 'saturn', (300, 520)
 
@@ -34,7 +36,7 @@ def globe(S, x, y, r):
             for i, name in enumerate(list(ZOD)[:7]):
                 f = (i - 3) / 3
                 with S.at(f * r * .84, 24 - 24 * f * f, 1, -22 * f):
-                    glyph(S, name, 0, 0, .17, 17, put=lambda d: S.add(k='line', d=d))
+                    glyph(S, name, 0, 0, .17, 17, kind='line')
     ring(S, x, y, r, 3.6)
 
 

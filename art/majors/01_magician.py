@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-from props import *
+from drawing import *      # the vocabulary of scenes, see drawing.py
 TITLE, NUM = 'LE BATELEVR', 'I'
 FIELD, PATTERN = 'emerald', 'damask'
 def draw(S):

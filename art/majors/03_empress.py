@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Empress: enthroned, full face, before a throne whose back spreads like wings; the sceptre with the orb, the shield with the eagle."""
-from regal import *
+import math
+
+from regal import *      # the vocabulary of scenes, see drawing.py
 TITLE, NUM = "L'IMPERATRICE", 'III'
 FIELD, PATTERN = 'lapis', 'damask'
 

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Lovers: a young man between two women, the elder with laurel, the younger with flowers; Cupid aims at him from a sunburst."""
-from regal import *
+import math
+
+from regal import *      # the vocabulary of scenes, see drawing.py
 TITLE, NUM = "L'AMOVREVX", 'VI'
 FIELD, PATTERN = 'lapis', 'stars'
 

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Chariot: a crowned captain in armour under a canopy on four posts, the car drawn by two horses, one red and one blue."""
-from regal import *
+import math
+
+from regal import *      # the vocabulary of scenes, see drawing.py
 TITLE, NUM = 'LE CHARIOT', 'VII'
 FIELD, PATTERN = 'emerald', 'stars'
 

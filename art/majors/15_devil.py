@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Devil: antlered and bat-winged on a drum, one hand raised, a torch in the other; a cord through the drum's ring holds two horned
 imps by the neck, loosely enough to slip."""
-from beasts import *
+from beasts import *      # the vocabulary of scenes, see drawing.py
 TITLE, NUM = 'LE DIABLE', 'XV'
 FIELD, PATTERN = 'crimson', 'damask'
 

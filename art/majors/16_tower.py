@@ -1,5 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-from props import *
+import math
+
+from drawing import *      # the vocabulary of scenes, see drawing.py
 TITLE, NUM = 'LA MAISON DIEV', 'XVI'
 FIELD, PATTERN = 'plum', 'stars'
 def ball(S, x, y, r, pig):

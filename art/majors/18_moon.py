@@ -1,7 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Moon: a face in profile within the ray-crowned disc, drops drawn up from the earth; two dogs howl between two towers and a
 crayfish climbs in the pool."""
-from beasts import *
+import math
+
+from beasts import *      # the vocabulary of scenes, see drawing.py
 TITLE, NUM = 'LA LVNE', 'XVIII'
 FIELD, PATTERN = 'night', 'stars'
 
@@ -27,7 +29,7 @@ def moon(S, x, y, k):
         S.fill(circ(0, 0, 93), 'blue', 4)
         for yy in range(-64, 80, 16):
             w = math.sqrt(88 ** 2 - yy ** 2)
-            S.line([(-w, yy), (-w * .6, yy + 2), (-w * .3 - 14, yy)], 3, 'end', k='hatch')
+            S.line([(-w, yy), (-w * .6, yy + 2), (-w * .3 - 14, yy)], 3, 'end', kind='hatch')
         arc = [pol(0, 0, 92, a) for a in range(-104, 106, 15)]
         profile = [(-22, 89, 'c'), (-16, 78), (-34, 74), (-47, 64), (-44, 54), (-36, 48, 'c'), (-48, 42), (-47, 34), (-40, 30, 'c'),
             (-51, 25), (-48, 16),
@@ -36,7 +38,7 @@ def moon(S, x, y, k):
         crescent = arc[:-1] + profile
         S.fill([arc[0] + ('c',)] + arc[1:] + profile, 'pearl', 4.6)
         with S.clip(path(crescent)):
-            S.wash(circ(-8, 22, 19), 'blush', .55, 4)
+            S.wash(circ(-8, 22, 19), 'blush', .55)
             S.wash([(-50, 38), (-40, 30), (-24, 32), (-40, 40), (-50, 44)], 'lip', .85)
             S.wash([(-54, 22), (-40, 26), (-24, 31), (-42, 31), (-52, 27)], 'lip', .85)
             S.line([(-46, 31), (-34, 30), (-20, 33)], 4)

@@ -1,5 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-from props import *
+import math
+
+from drawing import *      # the vocabulary of scenes, see drawing.py
 TITLE, NUM = 'LE SOLEIL', 'XVIIII'
 FIELD, PATTERN = 'lapis', 'stars'
 def rays(S, x, y, r0, r1, n=8):
@@ -59,7 +61,7 @@ def draw(S):
         S.line([(-10, yy), (150, yy+1), (300, yy-1), (450, yy+1), (610, yy)], 3.4, 'flat')
         for xx in range(-20+(r % 2)*36, 620, 72):
             S.line([(xx, yy-26), (xx+1, yy-1)], 3.4, 'flat')
-            if S.rnd.random() < .4: S.comb([(xx+6, yy-22), (xx+6, yy-4)], 0, 12, 3, 3)
+            if S.random.random() < .4: S.comb([(xx+6, yy-22), (xx+6, yy-4)], 0, 12, 3, 3)
         r += 1
     S.fill(rect(-20, 684, 640, 26), 'gold', 5); S.comb([(0, 688), (300, 688), (600, 688)], 90, 8, 60, 3.4)
     ground(S, 888)

@@ -1,7 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Judgment: an angel in the clouds sounds a trumpet with a crossed banner; man, woman and child rise naked from the grave, the child
 seen from behind."""
-from beasts import *
+import math
+
+from beasts import *      # the vocabulary of scenes, see drawing.py
 TITLE, NUM = 'LE IVGEMENT', 'XX'
 FIELD, PATTERN = 'crimson', 'stars'
 

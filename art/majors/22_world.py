@@ -1,7 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The World: a dancer with sash and wand in a laurel mandorla; angel, eagle, bull and lion keep the corners. Her crossed leg answers
 the Hanged Man's. The upper beings sit low and inward, clear of an arched frame."""
-from beasts import *
+import math
+
+from beasts import *      # the vocabulary of scenes, see drawing.py
 TITLE, NUM = 'LE MONDE', 'XXII'
 FIELD, PATTERN = 'plum', 'stars'
 CX, CY, RX, RY = 300, 524, 152, 330

@@ -4,7 +4,9 @@
 Cups: a covered vessel like a towered shrine. Coins: a golden sun of coin with tendrils. Swords and batons: a hand out of a
 cloud, the sword crowned with olive and palm, the club freshly cut and still in leaf.
 """
-from minors.suits import *
+import math
+
+from minors.suits import *      # the vocabulary of scenes, see drawing.py
 
 
 def cloud_cuff(S, x, y, k, rot=0, flip=False, sleeve='red'):

@@ -4,7 +4,9 @@
 A seated figure has its head at (300, 262), shoulders near y 385, waist at 560 and feet at 880; a standing one has its head
 at (300, 226), waist at 500. The horse faces left; a card that wants it to face right flips the whole scene.
 """
-from minors.heads import *
+import math
+
+from minors.heads import *      # the vocabulary of scenes, see drawing.py
 
 SIDES = (False, True)
 

@@ -3,7 +3,9 @@
 
 Everything is drawn around the middle of the face, which looks straight ahead or a little to the viewer's left; flip turns it.
 """
-from minors.suits import *
+import math
+
+from minors.suits import *      # the vocabulary of scenes, see drawing.py
 
 
 # ---------- hair behind the face ----------

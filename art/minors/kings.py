@@ -5,7 +5,7 @@ Batons: a youngish man on a wooden chair, knees apart, the staff planted before 
 throne, the cup on his knee. Swords: in armour with moon faces on the shoulders, sword upright, orb. Coins: out of doors on
 a folding chair, legs crossed at ease, the coin on his thigh.
 """
-from minors.bodies import *
+from minors.bodies import *      # the vocabulary of scenes, see drawing.py
 
 
 def tall_sword(S, x, y, rot=0, length=372):

@@ -5,7 +5,7 @@ Batons: the horse rears in a long caparison, the staff is raised. Cups: a white 
 offers the cup. Swords: in full armour, an armoured horse at the gallop, the sword swung. Coins: a heavy brown horse that
 stands, the rider looks at the coin before him.
 """
-from minors.bodies import *
+from minors.bodies import *      # the vocabulary of scenes, see drawing.py
 from minors.kings import sword_handle, tall_sword
 
 

@@ -5,7 +5,7 @@ Batons: both hands on a club as tall as himself. Cups: walking, a wreath in the 
 feathered cap and short cape, the sword shouldered, a hand on the scabbard. Coins: legs apart, looking up at the coin he
 holds aloft, purse at the belt.
 """
-from minors.bodies import *
+from minors.bodies import *      # the vocabulary of scenes, see drawing.py
 from minors.kings import sword_handle, tall_sword
 
 

@@ -5,7 +5,9 @@ Cups and coins stand at the places of a table and plants fill what is left. Swor
 cross each other; odd numbers add a straight one, tens two. In all four suits `positions` names one place for every symbol the
 card shows: the middle of a cup or coin, the guard of a sword, the head of a baton.
 """
-from minors.suits import *
+import math
+
+from minors.suits import *      # the vocabulary of scenes, see drawing.py
 from minors import aces
 
 NUMERALS = ('I', 'II', 'III', 'IIII', 'V', 'VI', 'VII', 'VIII', 'VIIII', 'X')

@@ -5,7 +5,7 @@ Batons: loose long hair, a sun-backed seat, the great staff leaning on her shoul
 canopy, a covered cup in one hand and a wavy sceptre in the other. Swords: in a wimple under a pointed arch, sword upright,
 the free hand raised. Coins: before a rose hedge, turned to the coin she holds up.
 """
-from minors.bodies import *
+from minors.bodies import *      # the vocabulary of scenes, see drawing.py
 from minors.kings import meadow, sword_handle, tall_sword
 
 

@@ -4,7 +4,9 @@
 Every symbol is drawn around its own middle so that a table of places is all a layout needs; curved swords and staves are
 drawn along a centre line, because interlacing has to know where two of them cross.
 """
-from props import *
+import math
+
+from drawing import *      # the vocabulary of scenes, see drawing.py
 
 CENTRE = (300, 526)             # middle of the picture box, not of the card: the title band is higher than the numeral's
 BLADES = ('sky', 'blue')        # two colours in turn keep neighbours apart when the eye counts
