@@ -90,13 +90,13 @@ int main(int argc, char** argv) {
 
     desktop::SystemClock clock;
     desktop::SystemTimeZone zone;
-    desktop::Mixer sounds(files);
+    desktop::Mixer mixer(files);
     desktop::QtDocumentOpener opener(files);
     desktop::XdgAutostart autostart(QApplication::applicationFilePath().toStdString());
     desktop::QtPendingEvents events;
     desktop::ClockRandom random;
     desktop::DesktopTray tray(programIcon());
-    shell::DesktopServices services{clock, zone, files, sounds, opener, boxes, autostart, events, random, tray};
+    shell::DesktopServices services{clock, zone, files, mixer, mixer, opener, boxes, autostart, events, random, tray};
 
     shell::ProcessRecord record(files);
     shell::WindowRegistry windows;

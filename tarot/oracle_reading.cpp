@@ -123,6 +123,10 @@ std::string dateButtonCaption(base::CivilDate readingDate) {
     return "- Date of reading -\n" + base::longDateTextWithoutComma(readingDate);
 }
 
+bool isDrawn(Suit suit, const OracleState& state) {
+    return state.*fieldsOf(suit).card != 0;
+}
+
 std::optional<std::string> openSuitText(Suit suit, OracleState& state, std::string_view applicationDirectory) {
     const std::int16_t card = state.*fieldsOf(suit).card;
     if (card == 0) return std::nullopt;

@@ -82,6 +82,8 @@ void resetReading(OracleState& state);
 /// The two lines of the date button, parted by a line feed.
 std::string dateButtonCaption(base::CivilDate readingDate);
 
+bool isDrawn(Suit suit, const OracleState& state);
+
 /// The text file of a suit's card, which becomes `currentCardNumber`; nothing when the suit has not been drawn.
 std::optional<std::string> openSuitText(Suit suit, OracleState& state, std::string_view applicationDirectory);
 

@@ -1,34 +1,43 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/files.h"
+#include "platform/media.h"
+#include "platform/qt/disk_files.h"
+#include "platform/qt/sound_thread.h"
 #include "platform/sounds.h"
 
-#include <QTimer>
-
-struct Mix_Chunk;
+#include <mutex>
 
 namespace velmoriax::desktop {
 
-/// Wave sounds through SDL's mixer. The sound device is opened when something sounds and closed when all is silent, so
-/// that it neither keeps a laptop awake nor other programs mute. Without a device everything stays silent and quick.
-class Mixer : public platform::Sounds {
+/// The wave sounds and the song, through one device. Nothing here waits for the sound: each call is noted and carried
+/// out by the sound thread, in order. Without a device, a sound font or a file everything stays silent and quick.
+class Mixer : public platform::Sounds, public platform::Media {
 public:
-    explicit Mixer(const platform::Files& files);
-    ~Mixer() override;
+    explicit Mixer(const DiskFiles& files);
 
     void playWav(const std::string& name) override;
 
-private:
-    bool openDevice();
-    void closeWhenSilent();
-    void freeChunk();
+    int open(const std::string& path) override;
+    void play(int device) override;
+    Mode mode(int device) const override;
+    void rewind(int device) override;
+    void stop(int device) override;
+    void close(int device) override;
+    void closeAll() override;
 
-    const platform::Files& files_;
-    QTimer silenceWatch_;
-    Mix_Chunk* chunk_ = nullptr;
-    std::string chunkBytes_;
-    bool deviceOpen_ = false;
+private:
+    int newDevice();
+    /// Gives the open device another mode; false when it is another one, or its song cannot be played.
+    bool change(int device, Mode mode);
+    void halt(int device);
+
+    const DiskFiles& files_;
+    mutable std::mutex guard_; ///< over the three below, which the sound thread touches too
+    int lastDevice_ = 0;       ///< numbers are given out once: a closed device's number stays closed
+    int openDevice_ = 0;
+    Mode mode_ = Mode::none;
+    SoundThread thread_; ///< the last member, so that it ends before what it uses
 };
 
 } // namespace velmoriax::desktop

@@ -48,6 +48,14 @@ QPalette nightPalette() {
     return palette;
 }
 
+void setSerif(QWidget& widget, double timesLarger) {
+    QFont serif = widget.font();
+    serif.setFamilies({QStringLiteral("EB Garamond"), QStringLiteral("DejaVu Serif"), QStringLiteral("serif")});
+    serif.setStyleHint(QFont::Serif);
+    serif.setPointSizeF(serif.pointSizeF() * timesLarger);
+    widget.setFont(serif);
+}
+
 } // namespace
 
 QColor ground() {
@@ -79,12 +87,13 @@ void apply(QApplication& application) {
 }
 
 void asTitle(QWidget& label) {
-    QFont serif = label.font();
-    serif.setFamilies({QStringLiteral("EB Garamond"), QStringLiteral("DejaVu Serif"), QStringLiteral("serif")});
-    serif.setStyleHint(QFont::Serif);
-    serif.setPointSizeF(serif.pointSizeF() * 1.45);
-    label.setFont(serif);
+    setSerif(label, 1.45);
     label.setProperty("role", QStringLiteral("title"));
+}
+
+void asReading(QWidget& pane) {
+    setSerif(pane, 1.15);
+    pane.setProperty("role", QStringLiteral("reading"));
 }
 
 void asQuiet(QWidget& label) {

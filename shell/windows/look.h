@@ -21,6 +21,9 @@ QColor quietText();
 /// Marks a label as a title or a card name: serif, larger, gold.
 void asTitle(QWidget& label);
 
+/// Gives a pane of text the serif of the cards, in a size for reading.
+void asReading(QWidget& pane);
+
 /// Marks a label as secondary: quieter text.
 void asQuiet(QWidget& label);
 

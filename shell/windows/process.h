@@ -5,6 +5,7 @@
 #include "platform/clock.h"
 #include "platform/document_opener.h"
 #include "platform/files.h"
+#include "platform/media.h"
 #include "platform/message_boxes.h"
 #include "platform/notification.h"
 #include "platform/pending_events.h"
@@ -25,6 +26,7 @@ struct DesktopServices {
     platform::TimeZone& zone;
     platform::Files& files;
     platform::Sounds& sounds;
+    platform::Media& media;
     platform::DocumentOpener& opener;
     platform::MessageBoxes& boxes;
     platform::Autostart& autostart;

@@ -2,15 +2,31 @@
 #pragma once
 
 #include "shell/windows/module_window.h"
+#include "tarot/ambient_sound.h"
+#include "tarot/oracle_view.h"
+#include "tarot/windows/result_menu.h"
 
+#include <QTimer>
+
+#include <array>
 #include <memory>
+
+class QDate;
+class QPushButton;
 
 namespace Ui {
 class Frmoracle;
 }
 
+namespace velmoriax::shell {
+class PictureBox;
+}
+
 namespace velmoriax::tarot {
 
+class QuestionBox;
+
+/// The oracle: four questions, each with its card, the final card, the date of the reading and the song behind it.
 class Frmoracle : public shell::ModuleWindow {
     Q_OBJECT
 
@@ -20,9 +36,50 @@ public:
 
 protected:
     void ownLoad() override;
+    void ownCommand(std::string_view name) override;
+    void onHidden() override;
+    void onUnload() override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    struct SuitControls {
+        Suit suit;
+        QuestionBox* question;
+        QPushButton* accept;
+        shell::PictureBox* card;
+    };
+
+    void dressControls();
+    void dressTextPane();
+    void connectSuits();
+    void connectControls();
+
+    void read(const SuitControls& controls);
+    void showResultant();
+    void reset();
+    void showBacks();
+    void followState();
+
+    void askDate();
+    void placeMonthView();
+    void leaveMonthView();
+    void pickDate(QDate day);
+
+    void openText(const std::optional<std::string>& path);
+
+    void switchSound(bool on);
+    void showSwitch(bool on);
+    void followTimer();
+
+    OracleServices reader() const;
+    AmbientServices ambience() const;
+
     std::unique_ptr<Ui::Frmoracle> ui_;
+    std::array<SuitControls, 4> suits_;
+    ResultMenu results_;
+    OracleState state_;
+    AmbientSound sound_;
+    QTimer timerMidi_;
 };
 
 } // namespace velmoriax::tarot

@@ -99,6 +99,40 @@ public:
     void playWav(const std::string& name) override { played.push_back(name); }
 };
 
+/// A song player by hand: only the songs laid ready can be opened, and `ends` brings the one that plays to its end.
+class FakeMedia : public platform::Media {
+public:
+    std::set<std::string> songs;
+    std::vector<std::string> starts; ///< the songs in the order in which they began to play
+    int opens = 0;
+    int openDevice = 0;
+    std::string song;
+    Mode songMode = Mode::none;
+
+    void ends() { songMode = Mode::stopped; }
+    int open(const std::string& path) override {
+        ++opens;
+        if (!songs.contains(path)) return 0;
+        song = path;
+        songMode = Mode::stopped;
+        return openDevice = opens;
+    }
+    void play(int device) override {
+        if (mode(device) == Mode::none) return;
+        songMode = Mode::playing;
+        starts.push_back(song);
+    }
+    Mode mode(int device) const override { return device != 0 && device == openDevice ? songMode : Mode::none; }
+    void rewind(int device) override { stop(device); }
+    void stop(int device) override {
+        if (mode(device) != Mode::none) songMode = Mode::stopped;
+    }
+    void close(int device) override {
+        if (device == openDevice) openDevice = 0;
+    }
+    void closeAll() override { openDevice = 0; }
+};
+
 class FakeOpener : public platform::DocumentOpener {
 public:
     std::vector<std::string> opened;

@@ -67,6 +67,7 @@ protected:
     FakeZone zone;
     FakeFiles files;
     FakeSounds sounds;
+    FakeMedia media;
     FakeOpener opener;
     FakeBoxes boxes;
     FakeAutostart autostart;
@@ -74,7 +75,7 @@ protected:
     FakeRandom random;
     FakeNotification notification;
     desktop::DesktopTray tray{QIcon()};
-    shell::DesktopServices services{clock, zone, files, sounds, opener, boxes, autostart, events, random, tray};
+    shell::DesktopServices services{clock, zone, files, sounds, media, opener, boxes, autostart, events, random, tray};
     shell::ProcessRecord record{files};
     shell::WindowRegistry windows;
     shell::Process process{record, services, windows};

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tarot/ambient_sound.h"
+
+namespace velmoriax::tarot {
+
+namespace {
+
+constexpr std::string_view suppliedSong = "\\Are You Lonesome Tonight.mid";
+
+void playChosenSong(AmbientSound& sound, const AmbientServices& services) {
+    const std::string chosen = services.options.option(shell::key::songAmbient);
+    sound.midiFile = chosen.empty() ? services.applicationDirectory + std::string(suppliedSong) : chosen;
+    openMidiDevice(sound, sound.midiFile, services);
+}
+
+} // namespace
+
+void openMidiDevice(AmbientSound& sound, const std::string& path, const AmbientServices& services) {
+    if (sound.midiDeviceId != 0) services.media.close(sound.midiDeviceId);
+    sound.midiDeviceId = 0;
+    const int opened = services.media.open(path);
+    services.events.letRun();
+    sound.midiDeviceId = opened;
+    services.media.play(opened);
+    sound.timerOn = true;
+}
+
+void closeAllMidi(AmbientSound& sound, platform::Media& media) {
+    media.closeAll();
+    sound.midiDeviceId = 0;
+    sound.timerOn = false;
+}
+
+void tickMidi(const AmbientSound& sound, platform::Media& media) {
+    if (sound.midiDeviceId == 0 || media.mode(sound.midiDeviceId) != platform::Media::Mode::stopped) return;
+    media.rewind(sound.midiDeviceId);
+    media.play(sound.midiDeviceId);
+}
+
+void stopMidi(const AmbientSound& sound, platform::Media& media) {
+    media.stop(sound.midiDeviceId);
+    media.close(sound.midiDeviceId);
+}
+
+bool startAmbient(AmbientSound& sound, const AmbientServices& services) {
+    sound.timerOn = false;
+    const std::string wanted = services.options.option(shell::key::soundAmbient);
+    if (!wanted.empty() && wanted != ambientOnWord) return false;
+    playChosenSong(sound, services);
+    return true;
+}
+
+void switchAmbientOn(AmbientSound& sound, const AmbientServices& services) {
+    playChosenSong(sound, services);
+    services.options.setOption(shell::key::soundAmbient, ambientOnWord);
+}
+
+void switchAmbientOff(AmbientSound& sound, const AmbientServices& services) {
+    closeAllMidi(sound, services.media);
+    services.options.setOption(shell::key::soundAmbient, ambientOffWord);
+}
+
+void chooseSong(platform::MessageBoxes& boxes, const AmbientServices& services) {
+    const auto song = boxes.askFile("Open file...", services.applicationDirectory, "Files mid (*.mid*)");
+    if (song) services.options.setOption(shell::key::songAmbient, *song);
+}
+
+} // namespace velmoriax::tarot

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/media.h"
+#include "platform/message_boxes.h"
+#include "platform/pending_events.h"
+#include "shell/options_store.h"
+
+#include <string>
+
+/// The song behind the oracle: which one, whether it plays, and how it goes round.
+namespace velmoriax::tarot {
+
+/// The two words of the option SoundAmbient. The empty text counts as on, any other as off.
+inline constexpr std::string_view ambientOnWord = "yes";
+inline constexpr std::string_view ambientOffWord = "nop";
+
+inline constexpr int timerMidiMs = 500;
+
+struct AmbientSound {
+    int midiDeviceId = 0; ///< 0 when no device is open
+    std::string midiFile; ///< the song in use
+    bool timerOn = false; ///< `TimerMidi` ticks
+};
+
+/// What the ambient sound takes from outside.
+struct AmbientServices {
+    platform::Media& media;
+    platform::PendingEvents& events;
+    shell::OptionsStore& options;
+    std::string applicationDirectory;
+};
+
+/// Closes the open device, if any, opens a song and plays it. A song that cannot be played leaves silence.
+void openMidiDevice(AmbientSound& sound, const std::string& path, const AmbientServices& services);
+
+void closeAllMidi(AmbientSound& sound, platform::Media& media);
+
+/// A tick of `TimerMidi`: a song that stands at its end begins again.
+void tickMidi(const AmbientSound& sound, platform::Media& media);
+
+/// The window closes: the song stops. `midiDeviceId` and the timer stay as they are, and the ticks find nothing to do,
+/// so that a window which comes back is silent until its switch is turned off and on.
+void stopMidi(const AmbientSound& sound, platform::Media& media);
+
+/// The sound at the load of the window, by the options. True when the switch stands on, which a song that cannot be
+/// played does not change.
+bool startAmbient(AmbientSound& sound, const AmbientServices& services);
+
+/// The switch, either way; it is remembered.
+void switchAmbientOn(AmbientSound& sound, const AmbientServices& services);
+void switchAmbientOff(AmbientSound& sound, const AmbientServices& services);
+
+/// Asks for a song and remembers it. What plays goes on: the choice counts from the next start of a song.
+void chooseSong(platform::MessageBoxes& boxes, const AmbientServices& services);
+
+} // namespace velmoriax::tarot
