@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tarot/windows/night_calendar.h"
+
+#include "shell/windows/look.h"
+
+#include <QCalendarWidget>
+#include <QTextCharFormat>
+#include <QToolButton>
+
+namespace velmoriax::tarot {
+
+namespace {
+
+constexpr int firstYear = 100;
+constexpr int lastYear = 9999;
+
+QTextCharFormat lettersIn(const QColor& colour) {
+    QTextCharFormat format;
+    format.setForeground(colour);
+    return format;
+}
+
+/// The two arrows have no face of their own in the style of the house.
+void setArrow(const QCalendarWidget& calendar, const char* button, const char* picture) {
+    if (auto* arrow = calendar.findChild<QToolButton*>(QLatin1String(button)))
+        arrow->setIcon(QIcon(QLatin1String(picture)));
+}
+
+} // namespace
+
+void makeNightCalendar(QCalendarWidget& calendar) {
+    calendar.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    calendar.setFirstDayOfWeek(Qt::Sunday);
+    calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendar.setDateRange({firstYear, 1, 1}, {lastYear, 12, 31});
+    QTextCharFormat header = lettersIn(shell::look::gold());
+    header.setBackground(shell::look::panel());
+    calendar.setHeaderTextFormat(header);
+    for (const auto day : {Qt::Saturday, Qt::Sunday})
+        calendar.setWeekdayTextFormat(day, lettersIn(shell::look::gold()));
+    setArrow(calendar, "qt_calendar_prevmonth", ":/tarot/arrow_left.png");
+    setArrow(calendar, "qt_calendar_nextmonth", ":/tarot/arrow_right.png");
+}
+
+} // namespace velmoriax::tarot
