@@ -7,6 +7,7 @@
 #include "shell/windows/frm_timer.h"
 #include "shell/windows/look.h"
 #include "shell/windows/window_registry.h"
+#include "sky/windows/frm_moon_phase.h"
 #include "tarot/windows/frm_calendar.h"
 #include "tarot/windows/frm_carta_dia.h"
 #include "tarot/windows/frm_name.h"
@@ -54,6 +55,8 @@ void addWindows(shell::WindowRegistry& windows) {
     windows.addModule(Module::names, make<tarot::FrmName>);
     windows.addModule(Module::numbers, make<tarot::frmVelmoriax>);
     windows.addModule(Module::biorhythms, make<biorhythm::frmBio>);
+    windows.addSecondary(sky::FrmMoonPhase::windowName,
+                         [](Process& process) { return new sky::FrmMoonPhase(process); });
 }
 
 void refuseSecondInstance(platform::MessageBoxes& boxes) {

@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "biorhythm/alert_engine.h"
+#include "biorhythm/bio_state.h"
+#include "shell/background_agent.h"
 #include "shell/options_store.h"
 #include "shell/shell_state.h"
+#include "sky/sky_state.h"
 #include "tarot/card_catalogue.h"
+
+#include <cstdint>
 
 namespace velmoriax::shell {
 
@@ -14,6 +20,11 @@ struct ProcessRecord {
     ShellState shell;
     OptionsStore options;
     tarot::CardState cards;
+    sky::SkyState sky;
+    biorhythm::BioState bio;
+    biorhythm::AlertRecord alerts;
+    AgentRecord agent;
+    std::int16_t gaugeTicks = 0; ///< minutes since the average gauge was drawn anew, over all changes of module
 };
 
 } // namespace velmoriax::shell

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 
@@ -20,9 +21,15 @@ QString text(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-/// Where a window stands that keeps no place of its own: the middle of the screen, and within it.
+constexpr int handOverWaitMs = 50;
+
+/// What a title bar takes of the screen's height, as far as can be known before the window manager has made one.
+constexpr int titleBarHeight = 32;
+
+/// Where a window stands that keeps no place of its own: the middle of the screen, wherever the last module stood, and
+/// no larger than what the panels leave free.
 void centre(QWidget& window) {
-    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry().adjusted(0, 0, 0, -titleBarHeight);
     const QSize size = window.size().boundedTo(area.size());
     window.resize(size);
     window.move(area.center() - QPoint(size.width() / 2, size.height() / 2));
@@ -36,15 +43,17 @@ ModuleWindow::ModuleWindow(Process& process, Module module) :
 }
 
 void ModuleWindow::load() {
-    record().shell.viewLoading = true;
+    ShellState& flags = record().shell;
+    flags.viewLoading = true;
     if (!isRefresh()) centre(*this);
     beforeOptions();
     record().options.readAtModuleLoad(module_ == Module::cardOfDay);
     const bool tooltipsOff = record().options.holders.tooltips == "ToolTips off";
     if (!isRefresh()) tray_.AddIconToSystray(tooltipsOff ? programName : std::string_view{});
+    const QPointer<ModuleWindow> self(this);
     ownLoad();
-    decideShowing();
-    record().shell.viewLoading = false;
+    if (self) decideShowing(); // events may have run inside, the program's exit among them
+    flags.viewLoading = false;
 }
 
 void ModuleWindow::decideShowing() {
@@ -65,6 +74,11 @@ void ModuleWindow::decideShowing() {
 }
 
 void ModuleWindow::handOverTo(Module target) {
+    if (record().shell.viewLoading) {
+        // A click that comes in while a load lets events run: it waits until the window that loads stands.
+        QTimer::singleShot(handOverWaitMs, this, [this, target] { handOverTo(target); });
+        return;
+    }
     tray_.RemoveIconFromSystray();
     process_.windows.touch(target, process_).showNormalState();
     unloadForReal_ = true;

@@ -19,6 +19,10 @@ QImage loadPicture(const platform::Files& files, const std::string& path) {
     return picture;
 }
 
+bool isClickKey(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
     setMinimumSize(24, 24);
@@ -107,16 +111,12 @@ void PictureBox::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void PictureBox::keyPressEvent(QKeyEvent* event) {
-    const bool activates =
-        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!clickable_ || !activates) return QWidget::keyPressEvent(event);
+    if (!clickable_ || !isClickKey(*event)) return QWidget::keyPressEvent(event);
     if (!event->isAutoRepeat()) Q_EMIT pressed();
 }
 
 void PictureBox::keyReleaseEvent(QKeyEvent* event) {
-    const bool activates =
-        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!clickable_ || !activates) return QWidget::keyReleaseEvent(event);
+    if (!clickable_ || !isClickKey(*event)) return QWidget::keyReleaseEvent(event);
     if (event->isAutoRepeat()) return;
     Q_EMIT released();
     Q_EMIT clicked();

@@ -12,6 +12,9 @@ namespace velmoriax::shell {
 /// Reads a picture of the program. Throws RunTimeError File not found or Invalid picture, naming the file.
 QImage loadPicture(const platform::Files& files, const std::string& path);
 
+/// True for the keys that click a picture: Space and both Enter keys.
+bool isClickKey(const QKeyEvent& event);
+
 /// A picture that is never stretched: it takes the largest place of its own proportions and is drawn at the screen's
 /// pixel ratio. It can be clicked, by keyboard too, and carries a name for those who cannot see it.
 class PictureBox : public QWidget {

@@ -46,13 +46,8 @@ QRect nearestWorkArea(QPoint point) {
     return nearest;
 }
 
-QRect broughtBack(QRect window) {
-    if (isGraspable(window)) return window;
-    const QRect area = nearestWorkArea(window.topLeft());
-    const int right = std::max(area.left(), area.right() - std::max(window.width(), graspableWidth) + 1);
-    const int bottom = std::max(area.top(), area.bottom() - std::max(window.height(), graspableHeight) + 1);
-    window.moveTo(std::clamp(window.left(), area.left(), right), std::clamp(window.top(), area.top(), bottom));
-    return window;
+QRect broughtBack(const QRect& window) {
+    return isGraspable(window) ? window : onScreen(window);
 }
 
 /// Far beyond any screen, and far from the end of the toolkit's numbers.
@@ -62,6 +57,14 @@ int pixels(int twips) {
 }
 
 } // namespace
+
+QRect onScreen(QRect window) {
+    const QRect area = nearestWorkArea(window.topLeft());
+    const int right = std::max(area.left(), area.right() - window.width() + 1);
+    const int bottom = std::max(area.top(), area.bottom() - window.height() + 1);
+    window.moveTo(std::clamp(window.left(), area.left(), right), std::clamp(window.top(), area.top(), bottom));
+    return window;
+}
 
 WindowPlace placeOf(const QWidget& window) {
     return {window.x() * twipsPerPixel, window.y() * twipsPerPixel, window.width() * twipsPerPixel,

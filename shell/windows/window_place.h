@@ -3,6 +3,8 @@
 
 #include "shell/window_position.h"
 
+#include <QRect>
+
 class QWidget;
 
 namespace velmoriax::shell {
@@ -12,5 +14,8 @@ WindowPlace placeOf(const QWidget& window);
 
 /// Moves and sizes a window. A place whose title bar would lie on no screen is brought back onto the nearest one.
 void moveToPlace(QWidget& window, const WindowPlace& place);
+
+/// The rectangle moved so that all of it lies on the screen nearest to its corner, as far as it fits.
+QRect onScreen(QRect window);
 
 } // namespace velmoriax::shell

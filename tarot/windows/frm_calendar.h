@@ -3,6 +3,8 @@
 
 #include "shell/windows/module_window.h"
 
+#include <QDate>
+
 #include <memory>
 
 namespace Ui {
@@ -11,6 +13,8 @@ class FrmCalendar;
 
 namespace velmoriax::tarot {
 
+/// The card of any day, with the sign and the Moon of its noon. Nothing is worked out before a day is picked, not even
+/// for the day that is marked when the window opens.
 class FrmCalendar : public shell::ModuleWindow {
     Q_OBJECT
 
@@ -18,11 +22,27 @@ public:
     explicit FrmCalendar(shell::Process& process);
     ~FrmCalendar() override;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 protected:
     void ownLoad() override;
+    void onHidden() override;
 
 private:
+    void dressControls();
+    void connectControls();
+
+    void pick(QDate day);
+    void sumcartdia(base::CivilDate date);
+    void showSignOf(base::CivilDate date);
+    void drawDateMoon(base::CivilDate date);
+
+    void describeCard();
+    void tellChangeOfSign();
+    void showSignText();
+
     std::unique_ptr<Ui::FrmCalendar> ui_;
+    std::int16_t dateCard_ = 0; ///< of the picked day; 0 before the first pick
 };
 
 } // namespace velmoriax::tarot

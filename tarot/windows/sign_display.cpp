@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tarot/windows/sign_display.h"
+
+#include "base/run_time_error.h"
+#include "shell/windows/picture_box.h"
+
+#include <algorithm>
+
+namespace velmoriax::tarot {
+
+namespace {
+
+constexpr int lettersOfLine = 62;
+constexpr double smallestLetters = 7;
+
+QString text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
+
+} // namespace
+
+void showSign(const sky::SignReading& sign, const platform::Files& files, const SignControls& controls) {
+    try {
+        controls.ImageZod.setPicture(shell::loadPicture(files, sign.picturePath));
+    } catch (const base::RunTimeError&) {
+    }
+    controls.ImageZod.setTip(text(sign.tip));
+    controls.ImageZod.setClickable(true);
+    controls.LabelZod.setText(text(sign.label));
+    controls.ImageAlert.setVisible(sign.alertVisible);
+    controls.ImageAlert.setToolTip(text(sign.alertTip));
+    controls.ImageAlert.setAccessibleName(text(sign.alertTip));
+}
+
+SignPane::SignPane(QWidget* parent) : QLabel(parent) {
+    setProperty("role", QStringLiteral("pane"));
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
+}
+
+void SignPane::showIn(const QRect& place, const QString& text) {
+    setText(text.trimmed());
+    const QSize room(std::min(place.width(), fontMetrics().averageCharWidth() * lettersOfLine), place.height());
+    fitFont(room);
+    const int height = heightForWidth(room.width());
+    setGeometry(place.center().x() - room.width() / 2, place.center().y() - height / 2, room.width(), height);
+    show();
+    raise();
+}
+
+void SignPane::fitFont(const QSize& room) {
+    QFont letters = parentWidget()->font();
+    for (double size = letters.pointSizeF(); size >= smallestLetters; --size) {
+        letters.setPointSizeF(size);
+        setFont(letters);
+        if (heightForWidth(room.width()) <= room.height()) return;
+    }
+}
+
+} // namespace velmoriax::tarot

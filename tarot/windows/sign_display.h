@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/files.h"
+#include "sky/sky_state.h"
+
+#include <QLabel>
+#include <QToolButton>
+
+namespace velmoriax::shell {
+class PictureBox;
+}
+
+namespace velmoriax::tarot {
+
+/// The corners of a picture that is a disk: Moon and signs.
+inline constexpr double roundPicture = 0.5;
+
+/// The controls in which a window shows the sign.
+struct SignControls {
+    shell::PictureBox& ImageZod;
+    QLabel& LabelZod;
+    QToolButton& ImageAlert;
+};
+
+/// Puts a search's answer into the controls. A sign picture that is missing leaves the one that stands: nothing about
+/// the signs stops the program.
+void showSign(const sky::SignReading& sign, const platform::Files& files, const SignControls& controls);
+
+/// "TextZod": what is told about a sign, a quiet pane that lies over a part of the window while it is asked for.
+class SignPane : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit SignPane(QWidget* parent = nullptr);
+
+    /// Shows a text in the middle of the place, as large as it needs. Where it finds no room, its letters are made
+    /// smaller.
+    void showIn(const QRect& place, const QString& text);
+
+private:
+    void fitFont(const QSize& room);
+};
+
+} // namespace velmoriax::tarot
