@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "biorhythm/bio_state.h"
 #include "shell/options_store.h"
 #include "shell/shell_state.h"
+#include "sky/sky_state.h"
 #include "tarot/card_catalogue.h"
 
 namespace velmoriax::shell {
@@ -14,6 +16,8 @@ struct ProcessRecord {
     ShellState shell;
     OptionsStore options;
     tarot::CardState cards;
+    sky::SkyState sky;
+    biorhythm::BioState bio;
 };
 
 } // namespace velmoriax::shell
