@@ -10,8 +10,14 @@ class Notification {
 public:
     virtual ~Notification() = default;
 
-    /// Slides the window up with a text.
+    /// Slides the window up with a text. One that stands slides down instead.
     virtual void slideUp(const std::string& text) = 0;
+
+    /// Slides the window down when its time is over; it stays loaded.
+    virtual void slideDown() = 0;
+
+    /// Slides the window down and takes it away.
+    virtual void close() = 0;
 
     /// True while the window stands fully up.
     virtual bool isOpen() const = 0;

@@ -194,6 +194,8 @@ public:
         texts.push_back(text);
         open = opens;
     }
+    void slideDown() override { open = false; }
+    void close() override { open = false; }
     bool isOpen() const override { return open; }
 };
 
