@@ -2,10 +2,14 @@
 #include "biorhythm/windows/frm_bio.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/mixer.h"
+#include "platform/qt/panel_position.h"
 #include "platform/qt/session.h"
 #include "platform/qt/system_clock.h"
 #include "shell/windows/frm_timer.h"
+#include "shell/windows/frm_tool_tip.h"
 #include "shell/windows/look.h"
+#include "shell/windows/notif.h"
+#include "shell/windows/notifications.h"
 #include "shell/windows/window_registry.h"
 #include "sky/windows/frm_moon_phase.h"
 #include "tarot/windows/frm_calendar.h"
@@ -48,6 +52,11 @@ shell::ModuleWindow* make(Process& process) {
     return new Window(process);
 }
 
+template<typename Window>
+shell::SecondaryWindow* makeBeside(Process& process) {
+    return new Window(process);
+}
+
 void addWindows(shell::WindowRegistry& windows) {
     windows.addModule(Module::cardOfDay, make<tarot::FrmCartaDia>);
     windows.addModule(Module::anotherDay, make<tarot::FrmCalendar>);
@@ -55,8 +64,9 @@ void addWindows(shell::WindowRegistry& windows) {
     windows.addModule(Module::names, make<tarot::FrmName>);
     windows.addModule(Module::numbers, make<tarot::frmVelmoriax>);
     windows.addModule(Module::biorhythms, make<biorhythm::frmBio>);
-    windows.addSecondary(sky::FrmMoonPhase::windowName,
-                         [](Process& process) { return new sky::FrmMoonPhase(process); });
+    windows.addSecondary(sky::FrmMoonPhase::windowName, makeBeside<sky::FrmMoonPhase>);
+    windows.addSecondary("Notif", makeBeside<shell::Notif>);
+    windows.addSecondary("FrmToolTip", makeBeside<shell::FrmToolTip>);
 }
 
 void refuseSecondInstance(platform::MessageBoxes& boxes) {
@@ -99,12 +109,16 @@ int main(int argc, char** argv) {
     desktop::QtPendingEvents events;
     desktop::ClockRandom random;
     desktop::DesktopTray tray(programIcon());
-    shell::DesktopServices services{clock, zone, files, mixer, mixer, opener, boxes, autostart, events, random, tray};
+    const desktop::PanelPosition panel(tray);
+    shell::DesktopServices services{clock, zone,      files,  mixer,  mixer, opener,
+                                    boxes, autostart, events, random, tray,  panel};
 
     shell::ProcessRecord record(files);
     shell::WindowRegistry windows;
     Process process{record, services, windows};
     addWindows(windows);
+    const auto notification = shell::makeNotification(process);
+    process.notification = notification.get();
     fatalBox.takeIconAway = [&tray] { tray.remove(); };
 
     shell::FrmTimer hub(process);

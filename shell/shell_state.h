@@ -17,6 +17,8 @@ struct ShellState {
     bool tipShown = false;        ///< the personal tooltip's content is up
     bool taskBarAtBottom = false; ///< as last measured
     int taskBarLocation = 0;      ///< 0 left, 1 top, 2 right, 3 bottom; 0 until it is first asked for
+    bool trayMissingTold = false; ///< the user knows that this desktop has no place for the icon
+    std::string alertText;        ///< the text of the notification
 };
 
 } // namespace velmoriax::shell

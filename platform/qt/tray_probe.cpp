@@ -18,23 +18,15 @@ namespace velmoriax::desktop {
 
 namespace {
 
-constexpr const char* watcherService = "org.kde.StatusNotifierWatcher";
 constexpr int answerWithinMs = 500;
-
-/// Without an address the bus library would start a bus of its own, which takes long and serves nobody.
-bool sessionBusExists() {
-    if (std::getenv("DBUS_SESSION_BUS_ADDRESS")) return true;
-    return QFileInfo::exists(QStringLiteral("/run/user/%1/bus").arg(::getuid()));
-}
 
 bool itemHostIsThere() {
     if (!sessionBusExists()) return false;
     const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected() || !bus.interface()->isServiceRegistered(QLatin1String(watcherService))) return false;
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(QLatin1String(watcherService), QStringLiteral("/StatusNotifierWatcher"),
-                                       QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    question << QString::fromLatin1(watcherService) << QStringLiteral("IsStatusNotifierHostRegistered");
+    if (!bus.isConnected() || !bus.interface()->isServiceRegistered(itemWatcherService)) return false;
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        itemWatcherService, itemWatcherPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    question << QString(itemWatcherService) << QStringLiteral("IsStatusNotifierHostRegistered");
     const QDBusMessage answer = bus.call(question, QDBus::Block, answerWithinMs);
     if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty()) return false;
     return answer.arguments().constFirst().value<QDBusVariant>().variant().toBool();
@@ -60,8 +52,19 @@ bool x11TrayIsThere() {
 
 } // namespace
 
-bool trayIsThere() {
-    return itemHostIsThere() || x11TrayIsThere();
+bool sessionBusExists() {
+    if (std::getenv("DBUS_SESSION_BUS_ADDRESS")) return true;
+    return QFileInfo::exists(QStringLiteral("/run/user/%1/bus").arg(::getuid()));
+}
+
+bool trayIsThere(TrayKind kind) {
+    return kind == TrayKind::item ? itemHostIsThere() : x11TrayIsThere();
+}
+
+std::optional<TrayKind> trayThatIsThere() {
+    for (const TrayKind kind : {TrayKind::item, TrayKind::window})
+        if (trayIsThere(kind)) return kind;
+    return std::nullopt;
 }
 
 } // namespace velmoriax::desktop

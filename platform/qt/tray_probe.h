@@ -1,9 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLatin1String>
+
+#include <optional>
+
 namespace velmoriax::desktop {
 
-/// Whether a panel with a tray is there, of either protocol. Does not touch the toolkit's tray class.
-bool trayIsThere();
+/// The service that keeps the list of tray items on the session bus.
+inline constexpr QLatin1String itemWatcherService("org.kde.StatusNotifierWatcher");
+inline constexpr QLatin1String itemWatcherPath("/StatusNotifierWatcher");
+
+/// The two protocols of a notification area: an item on the session bus, and a small X11 window inside the panel.
+enum class TrayKind { item, window };
+
+/// Whether a panel takes icons of that kind now. Does not touch the toolkit's tray class.
+bool trayIsThere(TrayKind kind);
+
+/// The kind that the toolkit will choose at its first use; nothing while no panel is there.
+std::optional<TrayKind> trayThatIsThere();
+
+/// Without an address the bus library would start a bus of its own, which takes long and serves nobody.
+bool sessionBusExists();
 
 } // namespace velmoriax::desktop

@@ -13,6 +13,8 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <utility>
+
 namespace velmoriax::shell {
 
 namespace {
@@ -38,8 +40,11 @@ void centre(QWidget& window) {
 } // namespace
 
 ModuleWindow::ModuleWindow(Process& process, Module module) :
-    process_(process), module_(module), tray_(process, *this, iconMenu_) {
+    process_(process), module_(module), tray_(process, iconMenu_) {
     setObjectName(text(windowNameOf(module)));
+    connect(&tray_, &CtxSysTray::MouseUp, this, &ModuleWindow::onTrayButtonUp);
+    connect(&tray_, &CtxSysTray::DblClick, this, &ModuleWindow::onTrayDoubleClick);
+    connect(&process.desktop.tray, &desktop::DesktopTray::trayLost, this, &ModuleWindow::onTrayLost);
 }
 
 void ModuleWindow::load() {
@@ -65,7 +70,9 @@ void ModuleWindow::decideShowing() {
     // A window that no tray can bring back is shown after all, as soon as that is known.
     auto& tray = desktop().tray;
     const auto showIfUnreachable = [this, &tray] {
-        if (!isVisible() && !tray.reachable()) showNormalState();
+        if (isVisible() || tray.reachable()) return;
+        showNormalState();
+        tellMissingTray();
     };
     if (tray.decided())
         QTimer::singleShot(0, this, showIfUnreachable);
@@ -93,11 +100,54 @@ void ModuleWindow::showNormalState() {
 }
 
 void ModuleWindow::hideToTray() {
-    if (desktop().tray.reachable())
+    if (desktop().tray.reachable()) {
         hide();
-    else
+    } else {
         showMinimized();
+        tellMissingTray();
+    }
     onHidden();
+}
+
+/// What each answer to the icon does first: a window that has caught the mouse lets it go, and no tip stands over what
+/// comes up.
+void ModuleWindow::releaseTip() {
+    if (QWidget* holder = QWidget::mouseGrabber()) holder->releaseMouse();
+    record().shell.trayBusy = true;
+    process_.windows.unload("FrmToolTip");
+}
+
+void ModuleWindow::onTrayButtonUp(int button) {
+    releaseTip();
+    if (button == CtxSysTray::leftButton) return returnFromTray();
+    if (isVisible()) {
+        raise();
+        activateWindow();
+    }
+    iconMenu_.popup(QCursor::pos());
+}
+
+void ModuleWindow::onTrayDoubleClick() {
+    releaseTip();
+    returnFromTray();
+}
+
+/// A window that was hidden into a tray that is no more comes back to the taskbar.
+void ModuleWindow::onTrayLost() {
+    if (isVisible() || process_.windows.loadedModule() != this) return;
+    showMinimized();
+    tellMissingTray();
+}
+
+void ModuleWindow::tellMissingTray() {
+    if (std::exchange(record().shell.trayMissingTold, true)) return;
+    QTimer::singleShot(0, this, [this] {
+        desktop().boxes.show(
+            platform::BoxIcon::information,
+            "This desktop shows no tray icons, so Velmoriax stays in the taskbar instead of hiding.\n\n"
+            "To have the icon, add a notification area (system tray) to a panel. On GNOME, install "
+            "and switch on the extension AppIndicator and KStatusNotifierItem Support.");
+    });
 }
 
 void ModuleWindow::unload() {

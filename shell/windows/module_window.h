@@ -71,6 +71,11 @@ protected:
 
 private:
     void decideShowing();
+    void onTrayButtonUp(int button);
+    void onTrayDoubleClick();
+    void releaseTip();
+    void onTrayLost();
+    void tellMissingTray();
     void unload();
     void minimised();
     void run(Command command, Module target, std::string_view name);

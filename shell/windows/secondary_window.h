@@ -19,7 +19,7 @@ public:
     virtual void load() = 0;
 
     /// Hides the window, runs `onUnload` and takes it off the registry.
-    void unload();
+    virtual void unload();
 
     /// Sets the state to normal, shows the window and gives it the focus.
     void showNormalState();

@@ -12,9 +12,11 @@ export HOME="$program_folder/home" XDG_CONFIG_HOME="$program_folder/home/.config
 unset XDG_DATA_HOME
 mkdir -p "$HOME"
 program=''
+panel='' # of a test that keeps its own
 
 cleanup() {
   stop_program
+  end_panel
   rm -rf "$program_folder"
 }
 trap cleanup EXIT
@@ -35,6 +37,13 @@ stop_program() {
   kill "$program" 2> /dev/null || true
   wait "$program" 2> /dev/null || true
   program=''
+}
+
+end_panel() {
+  [ -z "$panel" ] && return
+  kill "$panel" 2> /dev/null || true
+  wait "$panel" 2> /dev/null || true
+  panel=''
 }
 
 is_running() { kill -0 "$program" 2> /dev/null; }
@@ -60,12 +69,23 @@ window_titles() {
 
 window_is() { [ "$(window_titles)" = "$1" ]; }
 no_window() { [ -z "$(window_titles)" ]; }
+press_in() { # TITLE KEY: gives the window the focus, as a user does before he types
+  xdotool windowactivate --sync "$(window_id "$1")"
+  sleep 0.3
+  xdotool key --clearmodifiers "$2"
+}
 window_id() { xdotool search --onlyvisible --name "^$1\$" | head -n 1; }
 
 # The icons that the panel has taken in: small windows of ours below the panel's.
 tray_icons() { xwininfo -root -tree | grep -cE '"Velmoriax" "Velmoriax"\) +[0-9]{2}x[0-9]{2}\+' || true; }
 one_icon() { [ "$(tray_icons)" = 1 ]; }
 no_icon() { [ "$(tray_icons)" = 0 ]; }
+
+# What stands beside the window manager: tips, menus, the notification. "TITLE WxH+X+Y" each.
+popups() {
+  xwininfo -root -children |
+    sed -nE 's/^ +0x[0-9a-f]+ "([^"]*)": \("Velmoriax" "Velmoriax"\) +([0-9]+x[0-9]+)\+[^ ]* +(\+[^ ]*)$/\1 \2\3/p'
+}
 
 # Where the icon stands: "X Y" of its middle.
 icon_place() {

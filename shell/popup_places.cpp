@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/popup_places.h"
+
+#include "base/rounding.h"
+#include "shell/window_position.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velmoriax::shell {
+
+namespace {
+
+constexpr int notifGapRight = 500;
+constexpr int notifGapBottom = 435;
+constexpr int tipAboveBottom = 2150;
+
+struct SizeRow {
+    std::size_t below; ///< first length that is too long
+    NotifBack back;
+    int height; ///< twips
+};
+
+constexpr std::array<SizeRow, 3> sizes{{
+    {150, NotifBack::small, 1800},
+    {266, NotifBack::middle, 2670},
+    {static_cast<std::size_t>(-1), NotifBack::large, 3650},
+}};
+
+int pixels(int twips) {
+    return base::nearestInt32(static_cast<double>(twips) / twipsPerPixel);
+}
+
+} // namespace
+
+NotifSize notifSize(std::size_t characters) {
+    const auto* row = std::ranges::find_if(sizes, [&](const SizeRow& size) { return characters < size.below; });
+    return {row->back, pixels(row->height)};
+}
+
+int notifLeft(const ScreenMeasures& screen, int windowWidth) {
+    return screen.left + screen.width - windowWidth - std::max(pixels(notifGapRight), screen.panelRight);
+}
+
+int notifStart(const ScreenMeasures& screen) {
+    return screen.top + screen.height;
+}
+
+int notifStanding(const ScreenMeasures& screen, int windowHeight) {
+    return screen.top + screen.height - windowHeight - std::max(pixels(notifGapBottom), screen.panelBottom);
+}
+
+int notifGone(const ScreenMeasures& screen, int windowHeight) {
+    return screen.top + screen.height + windowHeight;
+}
+
+bool personalTipMayStand(const ScreenMeasures& screen, int pointerY, bool taskBarAtBottom) {
+    const double limit = screen.height * twipsPerPixel * 95.0 / 100.0;
+    return !taskBarAtBottom || limit < (pointerY - screen.top) * twipsPerPixel;
+}
+
+int personalTipLeft(const ScreenMeasures& screen, int windowWidth, int pointerX) {
+    const int farthest = std::max(screen.left, screen.left + screen.width - windowWidth);
+    return std::clamp(pointerX - windowWidth / 2, screen.left, farthest);
+}
+
+int personalTipTop(const ScreenMeasures& screen, int windowHeight) {
+    const int bottom = screen.top + screen.height;
+    const int highestNeeded = bottom - screen.panelBottom - windowHeight;
+    return std::max(screen.top, std::min(bottom - pixels(tipAboveBottom), highestNeeded));
+}
+
+} // namespace velmoriax::shell

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/tip_watch.h"
+
+#include <algorithm>
+
+namespace velmoriax::shell {
+
+namespace {
+
+constexpr std::int16_t restTicks = 5;
+constexpr std::string_view tipsOn = "ToolTips on";
+constexpr std::string_view tipsOff = "ToolTips off";
+
+} // namespace
+
+TipWatch::MoveDeed TipWatch::pointerMoved(std::string_view tooltips, bool mayStart, const ShellState& state) {
+    if (mayStart) watching_ = true;
+    if (state.trayBusy) return MoveDeed::none;
+    if (tooltips == tipsOn) return MoveDeed::measure;
+    return tooltips == tipsOff ? MoveDeed::showName : MoveDeed::none;
+}
+
+TipWatch::TickDeed TipWatch::tick(std::string_view tooltips, bool pointerOnIcon, ShellState& state) {
+    if (!wantsTicks(tooltips)) return TickDeed::none;
+    // Only five count: a pointer that rests for an hour must not run over the counter's end.
+    tipTicks_ = std::min<std::int16_t>(static_cast<std::int16_t>(tipTicks_ + 1), restTicks);
+    if (!pointerOnIcon) {
+        *this = {};
+        state.tipShown = false;
+        state.trayBusy = false;
+        return TickDeed::takeAway;
+    }
+    if (tipTicks_ < restTicks || state.trayBusy || state.tipShown) return TickDeed::none;
+    tipTicks_ = 0;
+    state.trayBusy = true;
+    return TickDeed::raise;
+}
+
+void TipWatch::clicked(ShellState& state) {
+    watching_ = false;
+    state.trayBusy = true;
+}
+
+bool TipWatch::wantsTicks(std::string_view tooltips) const {
+    return watching_ && tooltips != tipsOff;
+}
+
+} // namespace velmoriax::shell

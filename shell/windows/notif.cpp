@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/windows/notif.h"
+
+#include "shell/popup_places.h"
+#include "shell/windows/look.h"
+#include "shell/windows/screen_measures.h"
+#include "shell/windows/topmost.h"
+#include "ui_notif.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QThread>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+namespace velmoriax::shell {
+
+namespace {
+
+constexpr int slideMs = 320; ///< long enough for the eye to follow
+
+/// What a text leaves free at the right: the moon of the small back, and a rim in the others.
+constexpr int moonWidth = 74;
+constexpr int rightRim = 8;
+
+/// `Picture4`, `Picture2` and `Picture3`, by size.
+const std::array<QString, 3> backs{QStringLiteral(":/popups/notif_small.png"),
+                                   QStringLiteral(":/popups/notif_middle.png"),
+                                   QStringLiteral(":/popups/notif_large.png")};
+
+constexpr Qt::WindowFlags smallWindow =
+    Qt::Tool | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus;
+
+QFont arial(const QFont& like) {
+    QFont font = like;
+    font.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans"), like.family()});
+    return font;
+}
+
+void waitUntil(const QElapsedTimer& clock, qint64 microseconds) {
+    const qint64 left = microseconds - clock.nsecsElapsed() / 1000;
+    if (left > 0) QThread::usleep(static_cast<unsigned long>(left));
+}
+
+} // namespace
+
+/// Keeps the window alive while it slides: an unload that comes in between waits for the outermost slide.
+class Notif::Slide {
+public:
+    explicit Slide(Notif& window) : window_(window) { ++window_.slides_; }
+    ~Slide() {
+        if (--window_.slides_ == 0 && window_.unloadWanted_) window_.SecondaryWindow::unload();
+    }
+    Slide(const Slide&) = delete;
+    Slide& operator=(const Slide&) = delete;
+
+private:
+    Notif& window_;
+};
+
+// The window manager has no say over this window: one that begins below the screen would be brought onto it, and a
+// notification is neither to be listed nor to be given the focus.
+Notif::Notif(Process& process) : SecondaryWindow(process, smallWindow), ui_(std::make_unique<Ui::Notif>()) {
+    ui_->setupUi(this);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setFocusPolicy(Qt::NoFocus);
+    QFont bold = arial(font());
+    bold.setBold(true);
+    ui_->LabelTit->setFont(bold);
+    ui_->LabelTit->setProperty("role", QStringLiteral("title"));
+    ui_->Image1->setIcon(QIcon(QStringLiteral(":/popups/close.png")));
+    ui_->scroll->viewport()->setAutoFillBackground(false);
+    ui_->mTexto->setAutoFillBackground(false);
+    connect(ui_->Image1, &QToolButton::clicked, this, &Notif::onCloseMark);
+}
+
+Notif::~Notif() = default;
+
+void Notif::load() {
+    if (record().shell.notifOpen) {
+        SlideForm(*this, down);
+        desktop().events.letRun();
+    }
+    takeSize();
+    const ScreenMeasures screen = measuresOf(QGuiApplication::primaryScreen());
+    top_ = notifStart(screen);
+    move(notifLeft(screen, width()), top_);
+    SlideForm(*this, up);
+}
+
+void Notif::unload() {
+    if (slides_ == 0) return SecondaryWindow::unload();
+    unloadWanted_ = true;
+    hide();
+}
+
+void Notif::onUnload() {
+    record().shell.notifOpen = false;
+}
+
+void Notif::SlideForm(QWidget& Ventana, int Direction) {
+    const Slide underWay(*this);
+    if (!record().shell.notifOpen) {
+        takeSize();
+        if (Direction == up) return slideUp(Ventana);
+        if (Direction != down) return;
+    }
+    slideDown(Ventana);
+}
+
+void Notif::takeSize() {
+    const auto characters = QString::fromStdString(record().shell.alertText).toUcs4().size();
+    const NotifSize size = notifSize(static_cast<std::size_t>(characters));
+    ui_->Picture1->setBack(backs.at(static_cast<std::size_t>(size.back)));
+    ui_->mTexto->setContentsMargins(0, 0, size.back == NotifBack::small ? moonWidth : rightRim, 0);
+    setFixedSize(ui_->Picture1->backSize().width(), size.height);
+}
+
+void Notif::slideUp(QWidget& Ventana) {
+    const ScreenMeasures screen = measuresOf(QGuiApplication::primaryScreen());
+    ui_->mTexto->setText(QString::fromStdString(record().shell.alertText));
+    fitText();
+    Ventana.move(notifLeft(screen, Ventana.width()), top_);
+    Ventana.show();
+    if (!slide(Ventana, -1, [&] { return notifStanding(screen, Ventana.height()); })) return;
+    record().shell.notifOpen = true;
+    Topmost(Ventana);
+}
+
+void Notif::slideDown(QWidget& Ventana) {
+    const ScreenMeasures screen = measuresOf(QGuiApplication::primaryScreen());
+    NotTopmost(Ventana);
+    slide(Ventana, 1, [&] { return notifGone(screen, Ventana.height()); });
+    record().shell.notifOpen = false;
+}
+
+/// One pixel a step, and all events at each. The goal is asked for anew, since a slide inside this one may have given
+/// the window another height. False when the program ends or the window is wanted away meanwhile.
+bool Notif::slide(QWidget& Ventana, int step, const std::function<int()>& goal) {
+    const qint64 pace = slideMs * 1000 / std::max(1, std::abs(goal() - top_));
+    QElapsedTimer clock;
+    clock.start();
+    for (qint64 steps = 1; step * (goal() - top_) > 0; ++steps) {
+        top_ += step;
+        Ventana.move(Ventana.x(), top_);
+        desktop().events.letRun();
+        if (record().shell.closingAll || unloadWanted_) return false;
+        waitUntil(clock, steps * pace);
+    }
+    return true;
+}
+
+/// A long text takes smaller letters before it has to be scrolled.
+void Notif::fitText() {
+    constexpr double smallestShare = 0.75;
+    constexpr double step = 0.5;
+    // Nothing has been shown yet that would have laid the parts out.
+    layout()->activate();
+    ui_->Picture1->layout()->activate();
+    const QSize room = ui_->scroll->size().shrunkBy(ui_->mTexto->contentsMargins());
+    QFont letters = arial(font());
+    const double smallest = letters.pointSizeF() * smallestShare;
+    const auto tooTall = [&] {
+        const QRect unbounded(0, 0, room.width(), QWIDGETSIZE_MAX);
+        const QFontMetrics metrics(letters, this);
+        return metrics.boundingRect(unbounded, Qt::TextWordWrap, ui_->mTexto->text()).height() > room.height();
+    };
+    while (tooTall() && letters.pointSizeF() - step >= smallest) letters.setPointSizeF(letters.pointSizeF() - step);
+    ui_->mTexto->setFont(letters);
+}
+
+void Notif::onCloseMark() {
+    SlideForm(*this, down);
+    record().shell.notifOpen = false;
+    desktop().events.letRun();
+    unload();
+}
+
+} // namespace velmoriax::shell

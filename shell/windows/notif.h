@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/windows/secondary_window.h"
+
+#include <functional>
+#include <memory>
+
+namespace Ui {
+class Notif;
+}
+
+namespace velmoriax::shell {
+
+/// The notification: slides up over the panel to tell `alertText` and slides away again. It takes no focus and stands
+/// above the other windows.
+class Notif : public SecondaryWindow {
+    Q_OBJECT
+
+public:
+    explicit Notif(Process& process);
+    ~Notif() override;
+
+    void load() override;
+    void unload() override;
+
+    static constexpr int up = 0;
+    static constexpr int down = 1;
+
+    /// Slides `Ventana`, which is this window, up or down. One that stands goes down in either direction. Events run at
+    /// each step, so that a slide may begin inside another: both then move the one window, and each ends where it has
+    /// to.
+    void SlideForm(QWidget& Ventana, int Direction);
+
+protected:
+    void onUnload() override;
+
+private:
+    class Slide;
+
+    void takeSize();
+    void fitText();
+    void slideUp(QWidget& Ventana);
+    void slideDown(QWidget& Ventana);
+    bool slide(QWidget& Ventana, int step, const std::function<int()>& goal);
+    void onCloseMark();
+
+    std::unique_ptr<Ui::Notif> ui_;
+    int top_ = 0;    ///< of the window, in pixels: what the desktop reports of it comes late
+    int slides_ = 0; ///< that are under way, one inside another
+    bool unloadWanted_ = false;
+};
+
+} // namespace velmoriax::shell

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/popup_places.h"
+#include "shell/task_bar_metrics.h"
+#include "shell/tip_watch.h"
+#include "shell/tray_tip.h"
+#include "support/fakes.h"
+
+#include <gtest/gtest.h>
+
+namespace velmoriax::shell {
+namespace {
+
+constexpr std::string_view on = "ToolTips on";
+constexpr std::string_view off = "ToolTips off";
+
+/// A pointer moved by hand over an icon.
+struct TipWatchTest : testing::Test {
+    ShellState state;
+    TipWatch watch;
+    bool onIcon = true;
+
+    TipWatch::MoveDeed move(std::string_view tooltips = on) { return watch.pointerMoved(tooltips, true, state); }
+    TipWatch::TickDeed tick(std::string_view tooltips = on) { return watch.tick(tooltips, onIcon, state); }
+    /// Ticks until something is to be done; how many it took, 0 when nothing came in a minute.
+    int ticksUntil(TipWatch::TickDeed deed) {
+        for (int n = 1; n <= 600; ++n)
+            if (tick() == deed) return n;
+        return 0;
+    }
+};
+
+TEST_F(TipWatchTest, RestOfHalfASecondRaisesOneTipThatGoesWithThePointer) {
+    EXPECT_EQ(tick(), TipWatch::TickDeed::none) << "nobody has come yet";
+    EXPECT_EQ(move(), TipWatch::MoveDeed::measure);
+    EXPECT_EQ(ticksUntil(TipWatch::TickDeed::raise), 5);
+    EXPECT_TRUE(state.trayBusy);
+    EXPECT_EQ(ticksUntil(TipWatch::TickDeed::raise), 0) << "the same tip comes up again";
+    onIcon = false;
+    state.tipShown = true;
+    EXPECT_EQ(tick(), TipWatch::TickDeed::takeAway);
+    EXPECT_FALSE(state.trayBusy || state.tipShown || watch.wantsTicks(on));
+}
+
+TEST_F(TipWatchTest, PointerThatLeavesInTimeRaisesNoneAndStartsAfresh) {
+    for (int visit = 0; visit < 3; ++visit) {
+        move();
+        onIcon = true;
+        for (int n = 0; n < 4; ++n) EXPECT_EQ(tick(), TipWatch::TickDeed::none);
+        onIcon = false;
+        EXPECT_EQ(tick(), TipWatch::TickDeed::takeAway);
+    }
+    EXPECT_FALSE(state.trayBusy);
+}
+
+TEST_F(TipWatchTest, ClickBlocksUntilThePointerHasLeft) {
+    move();
+    tick();
+    watch.clicked(state);
+    EXPECT_FALSE(watch.wantsTicks(on));
+    EXPECT_EQ(move(), TipWatch::MoveDeed::none) << "nothing is measured for a busy icon";
+    EXPECT_EQ(ticksUntil(TipWatch::TickDeed::raise), 0);
+    onIcon = false;
+    EXPECT_EQ(tick(), TipWatch::TickDeed::takeAway);
+    onIcon = true;
+    move();
+    EXPECT_EQ(ticksUntil(TipWatch::TickDeed::raise), 5);
+}
+
+TEST_F(TipWatchTest, BoxThatGivesTheIconFreeLetsTheWaitingTipUp) {
+    watch.clicked(state);
+    move();
+    ticksUntil(TipWatch::TickDeed::raise);
+    state.trayBusy = false;
+    EXPECT_EQ(tick(), TipWatch::TickDeed::raise);
+}
+
+TEST_F(TipWatchTest, SwitchedOffOrHeldBackItSleeps) {
+    EXPECT_EQ(move(off), TipWatch::MoveDeed::showName);
+    EXPECT_FALSE(watch.wantsTicks(off));
+    for (int n = 0; n < 20; ++n) EXPECT_EQ(tick(off), TipWatch::TickDeed::none);
+    EXPECT_EQ(ticksUntil(TipWatch::TickDeed::raise), 5) << "ticks with tips off must not count";
+
+    TipWatch held;
+    held.pointerMoved(on, false, state);
+    EXPECT_FALSE(held.wantsTicks(on)) << "a module is loading, or a description stands";
+}
+
+/// Counts how often the lines are worked out.
+struct Lines : TipSource {
+    int calls = 0;
+    TipLines tipLines() override {
+        ++calls;
+        return {"Card of Day: VIII. Justice", "Zodiac Sign: Scorpio", "Biorhythms (avg.): -39.20 % (<)", "Moon: 21%"};
+    }
+};
+
+TEST(TrayTip, IsBuiltOnceFromDatePlanetAndFourLines) {
+    Lines source;
+    const std::string lines = "Card of Day: VIII. Justice\r\nZodiac Sign: Scorpio\r\n"
+                              "Biorhythms (avg.): -39.20 % (<)\r\nMoon: 21%";
+    EXPECT_EQ(balloonText({1975, 3, 14}, {2026, 11, 15}, source), "11/15/2026 (The Sun)\r\n" + lines);
+    const PersonalTip tip = personalTip({1975, 3, 14}, {2026, 11, 18}, source);
+    EXPECT_EQ(tip.date, "11/18/2026 (Mercury)");
+    EXPECT_EQ(tip.lines, lines);
+    EXPECT_EQ(source.calls, 2);
+}
+
+TEST(TrayTip, AnyOfThreeMarksMeansNoBirthDate) {
+    struct Row {
+        base::CivilDate birth;
+        const char* why;
+    };
+    Lines source;
+    for (const Row& row : {Row{{1900, 1, 1}, "the mark itself"}, Row{{1975, 3, 1}, "a real first of March"},
+                           Row{{1975, 1, 14}, "a real January"}, Row{{1900, 3, 14}, "a real 1900"}}) {
+        EXPECT_EQ(balloonText(row.birth, {2026, 11, 15}, source),
+                  "ToolTps din\xC3\xA1micos cuando se actualice la fecha de nacimiento para los biorritmos!")
+            << row.why;
+        const PersonalTip tip = personalTip(row.birth, {2026, 11, 15}, source);
+        EXPECT_TRUE(tip.date.empty()) << row.why;
+        EXPECT_EQ(tip.lines, "Dinamic ToolTps \r\nwhen the date of birth \r\nbe updated for the biorhythms!");
+    }
+    EXPECT_EQ(source.calls, 0) << "no line may be worked out";
+}
+
+TEST(TaskBarMetrics, ReportAndEdge) {
+    test::FakeTaskBar bar;
+    ShellState state;
+    state.taskBarLocation = 3;
+    getTaskBarMetrics(bar, state);
+    EXPECT_EQ(state.taskBarLocation, 0) << "a desktop without a panel";
+    bar.where = platform::TaskBarPosition{1240, 5, 1280, 800, platform::TaskBarPosition::rightEdge};
+    EXPECT_EQ(getTaskBarMetrics(bar, state),
+              "TaskBarMetrics In Pixels (not twips)\r\nLeft: 1240, Right: 1280, Bottom: 800, Top: 5\r\n"
+              "Width:40\r\nHeight:795\r\nLocation: 2 (0-left, 1-top, 2-right, 3-bottom)");
+    EXPECT_EQ(state.taskBarLocation, 2);
+}
+
+TEST(PopupPlaces, NotificationTakesItsSizeFromTheLength) {
+    const auto is = [](std::size_t length, NotifBack back, int height) {
+        const NotifSize size = notifSize(length);
+        EXPECT_EQ(size.back, back) << length;
+        EXPECT_EQ(size.height, height) << length;
+    };
+    is(0, NotifBack::small, 120);
+    is(149, NotifBack::small, 120);
+    is(150, NotifBack::middle, 178);
+    is(265, NotifBack::middle, 178);
+    is(266, NotifBack::large, 243);
+    is(600, NotifBack::large, 243);
+}
+
+TEST(PopupPlaces, NotificationStandsOnThePanelOrLeavesItsRoomFree) {
+    ScreenMeasures screen{0, 0, 1280, 800, 0, 0};
+    EXPECT_EQ(notifLeft(screen, 340), 1280 - 340 - 33);
+    EXPECT_EQ(notifStart(screen), 800);
+    EXPECT_EQ(notifStanding(screen, 120), 800 - 120 - 29);
+    EXPECT_EQ(notifGone(screen, 120), 920);
+    screen.panelBottom = 24;
+    EXPECT_EQ(notifStanding(screen, 120), 651) << "a thin panel";
+    screen.panelBottom = 44;
+    EXPECT_EQ(notifStanding(screen, 120), 636) << "a thick panel";
+    screen.panelRight = 60;
+    EXPECT_EQ(notifLeft(screen, 340), 880);
+    const ScreenMeasures second{1280, 100, 1920, 1080, 0, 0};
+    EXPECT_EQ(notifStanding(second, 120), 1031);
+    EXPECT_EQ(notifLeft(second, 340), 2827);
+}
+
+TEST(PopupPlaces, PersonalTipStandsOverTheLowestTwentieth) {
+    const ScreenMeasures screen{0, 0, 1280, 1000, 0, 30};
+    EXPECT_TRUE(personalTipMayStand(screen, 960, true));
+    EXPECT_FALSE(personalTipMayStand(screen, 950, true)) << "the bound itself is too high";
+    EXPECT_FALSE(personalTipMayStand(screen, 900, true));
+    EXPECT_TRUE(personalTipMayStand(screen, 900, false)) << "a panel elsewhere does not stop it";
+
+    EXPECT_EQ(personalTipTop(screen, 104), 857) << "2150 twips are 143 pixels";
+    EXPECT_EQ(personalTipTop(screen, 90), 857);
+    EXPECT_EQ(personalTipTop(screen, 160), 810) << "a tall window stands on the panel, not over the icon";
+    EXPECT_EQ(personalTipLeft(screen, 400, 700), 500);
+    EXPECT_EQ(personalTipLeft(screen, 400, 1250), 880) << "whole on the screen";
+    EXPECT_EQ(personalTipLeft(screen, 400, 10), 0);
+}
+
+} // namespace
+} // namespace velmoriax::shell
