@@ -4,6 +4,8 @@
 #include "platform/qt/mixer.h"
 #include "platform/qt/session.h"
 #include "platform/qt/system_clock.h"
+#include "shell/windows/frm_about.h"
+#include "shell/windows/frm_options.h"
 #include "shell/windows/frm_timer.h"
 #include "shell/windows/look.h"
 #include "shell/windows/window_registry.h"
@@ -47,6 +49,11 @@ shell::ModuleWindow* make(Process& process) {
     return new Window(process);
 }
 
+template<typename Window>
+shell::SecondaryWindow* makeSecondary(Process& process) {
+    return new Window(process);
+}
+
 void addWindows(shell::WindowRegistry& windows) {
     windows.addModule(Module::cardOfDay, make<tarot::FrmCartaDia>);
     windows.addModule(Module::anotherDay, make<tarot::FrmCalendar>);
@@ -54,6 +61,8 @@ void addWindows(shell::WindowRegistry& windows) {
     windows.addModule(Module::names, make<tarot::FrmName>);
     windows.addModule(Module::numbers, make<tarot::frmVelmoriax>);
     windows.addModule(Module::biorhythms, make<biorhythm::frmBio>);
+    windows.addSecondary("FrmOptions", makeSecondary<shell::FrmOptions>);
+    windows.addSecondary("frmAbout", makeSecondary<shell::frmAbout>);
 }
 
 void refuseSecondInstance(platform::MessageBoxes& boxes) {
