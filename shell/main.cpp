@@ -2,6 +2,7 @@
 #include "biorhythm/windows/frm_bio.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/mixer.h"
+#include "platform/qt/panel_position.h"
 #include "platform/qt/session.h"
 #include "platform/qt/system_clock.h"
 #include "shell/windows/frm_about.h"
@@ -50,7 +51,7 @@ shell::ModuleWindow* make(Process& process) {
 }
 
 template<typename Window>
-shell::SecondaryWindow* makeSecondary(Process& process) {
+shell::SecondaryWindow* makeBeside(Process& process) {
     return new Window(process);
 }
 
@@ -61,8 +62,8 @@ void addWindows(shell::WindowRegistry& windows) {
     windows.addModule(Module::names, make<tarot::FrmName>);
     windows.addModule(Module::numbers, make<tarot::frmVelmoriax>);
     windows.addModule(Module::biorhythms, make<biorhythm::frmBio>);
-    windows.addSecondary("FrmOptions", makeSecondary<shell::FrmOptions>);
-    windows.addSecondary("frmAbout", makeSecondary<shell::frmAbout>);
+    windows.addSecondary("FrmOptions", makeBeside<shell::FrmOptions>);
+    windows.addSecondary("frmAbout", makeBeside<shell::frmAbout>);
 }
 
 void refuseSecondInstance(platform::MessageBoxes& boxes) {
@@ -105,7 +106,8 @@ int main(int argc, char** argv) {
     desktop::QtPendingEvents events;
     desktop::ClockRandom random;
     desktop::DesktopTray tray(programIcon());
-    shell::DesktopServices services{clock, zone, files, sounds, opener, boxes, autostart, events, random, tray};
+    const desktop::PanelPosition panel(tray);
+    shell::DesktopServices services{clock, zone, files, sounds, opener, boxes, autostart, events, random, tray, panel};
 
     shell::ProcessRecord record(files);
     shell::WindowRegistry windows;

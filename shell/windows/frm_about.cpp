@@ -13,6 +13,7 @@ frmAbout::frmAbout(Process& process) : SecondaryWindow(process), ui_(std::make_u
     setMouseTracking(true);
     look::asTitle(*ui_->LblTitle);
     look::asQuiet(*ui_->lblVersion);
+    ui_->ARButtonAcep->setFocus();
     ui_->emblem->setPixmap(windowIcon().pixmap(64, 64));
     ui_->CommandInfo->setIcon(QIcon(QStringLiteral(":/look/pictures/help-24.png")));
     connectWays();

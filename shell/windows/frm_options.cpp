@@ -3,6 +3,7 @@
 
 #include "shell/modules.h"
 #include "shell/option_values.h"
+#include "shell/task_bar_metrics.h"
 #include "ui_frm_options.h"
 
 #include <QPointer>
@@ -23,8 +24,13 @@ void forEachOption(const QWidget& window, Work work) {
     }
 }
 
+/// Which throw the oracle takes next.
+void setRealThrow(ProcessRecord& /*record*/, bool /*real*/) {}
+
 OptionsDialog::Links linksOf(Process& process) {
-    return {process.desktop.autostart, process.desktop.boxes, [] {}, [](bool) {}};
+    return {process.desktop.autostart, process.desktop.boxes,
+            [&process] { getTaskBarMetrics(process.desktop.taskBar, process.record.shell); },
+            [&process](bool real) { setRealThrow(process.record, real); }};
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 #include "platform/qt/desktop_tray.h"
 #include "platform/random_source.h"
 #include "platform/sounds.h"
+#include "platform/task_bar.h"
 #include "platform/time_zone.h"
 #include "shell/process_record.h"
 #include "shell/tip_source.h"
@@ -31,6 +32,7 @@ struct DesktopServices {
     platform::PendingEvents& events;
     platform::RandomSource& random;
     desktop::DesktopTray& tray;
+    const platform::TaskBar& taskBar;
 };
 
 /// What every window is given: the process record, the desktop and the other windows.

@@ -73,8 +73,10 @@ protected:
     FakeEvents events;
     FakeRandom random;
     FakeNotification notification;
+    FakeTaskBar taskBar;
     desktop::DesktopTray tray{QIcon()};
-    shell::DesktopServices services{clock, zone, files, sounds, opener, boxes, autostart, events, random, tray};
+    shell::DesktopServices services{clock,     zone,   files,  sounds, opener, boxes,
+                                    autostart, events, random, tray,   taskBar};
     shell::ProcessRecord record{files};
     shell::WindowRegistry windows;
     shell::Process process{record, services, windows};

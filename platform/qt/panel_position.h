@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/task_bar.h"
+
+#include <QRect>
+
+class QScreen;
+
+namespace velmoriax::desktop {
+
+class DesktopTray;
+
+/// What panels leave of a screen, in logical pixels. On a desktop of several screens the window manager gives one area
+/// for all of them together, which says nothing of the single screen: there the panels are asked themselves.
+QRect workAreaOf(const QScreen& screen);
+
+/// The panel of the primary screen. With panels at several edges it is the one that holds the tray icon; where that is
+/// not told, the one at the bottom, then the thickest.
+class PanelPosition : public platform::TaskBar {
+public:
+    explicit PanelPosition(const DesktopTray& tray) : tray_(tray) {}
+    std::optional<platform::TaskBarPosition> position() const override;
+
+private:
+    const DesktopTray& tray_;
+};
+
+} // namespace velmoriax::desktop
