@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/options_dialog.h"
 
-#include "platform/task_bar.h"
 #include "shell/modules.h"
 #include "shell/option_values.h"
+#include "shell/task_bar_metrics.h"
 
 #include <algorithm>
 
@@ -159,7 +159,7 @@ void OptionsDialog::writeOrEraseAutostart() {
 }
 
 void OptionsDialog::setThrow() {
-    links_.setRealThrow(state_[O::OptReal].on);
+    record_.oracle.realThrow = state_[O::OptReal].on;
 }
 
 void OptionsDialog::enableTooltipControls() {
@@ -173,7 +173,7 @@ void OptionsDialog::allowSilentMode() {
 }
 
 void OptionsDialog::testTaskBar() {
-    links_.getTaskBarMetrics();
+    getTaskBarMetrics(desktop_.taskBar, record_.shell);
     bool& atBottom = record_.shell.taskBarAtBottom;
     atBottom = record_.shell.taskBarLocation == platform::TaskBarPosition::bottomEdge;
     if (atBottom) {
@@ -182,8 +182,8 @@ void OptionsDialog::testTaskBar() {
         state_[O::CheckNoSound].enabled = false;
         return;
     }
-    links_.boxes.show(platform::BoxIcon::warning, "Personal tooltip only is supported with the taskbar at the bottom.",
-                      "Info Tooltip");
+    desktop_.boxes.show(platform::BoxIcon::warning,
+                        "Personal tooltip only is supported with the taskbar at the bottom.", "Info Tooltip");
     setChosen(O::OptionXP);
 }
 

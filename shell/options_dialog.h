@@ -3,14 +3,13 @@
 
 #include "platform/autostart.h"
 #include "platform/message_boxes.h"
+#include "platform/task_bar.h"
 #include "shell/process_record.h"
 
 #include <array>
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 /// What the options dialog shows, writes and changes, without its window. There is no Cancel: each control writes its
 /// key at the moment it changes.
@@ -61,15 +60,13 @@ bool isCheckBox(Option option);
 
 class OptionsDialog {
 public:
-    /// What other parts of the program lend the dialog.
-    struct Links {
+    struct Desktop {
         platform::Autostart& autostart;
         platform::MessageBoxes& boxes;
-        std::function<void()> getTaskBarMetrics; ///< measures the panel and leaves its edge in the shell state
-        std::function<void(bool)> setRealThrow;  ///< the oracle's throw flag
+        const platform::TaskBar& taskBar;
     };
 
-    OptionsDialog(ProcessRecord& record, Links links) : record_(record), links_(std::move(links)) {}
+    OptionsDialog(ProcessRecord& record, Desktop desktop) : record_(record), desktop_(desktop) {}
 
     const OptionControls& state() const { return state_; }
 
@@ -103,8 +100,8 @@ public:
     void GuardarMinimizar(std::string_view lpString) { save(key::minimizar, lpString); }
 
     /// Creates the autostart entry, and removes it.
-    void WriteIniWin() { links_.autostart.write("Velmoriax"); }
-    void EraseIniWin() { links_.autostart.erase("Velmoriax"); }
+    void WriteIniWin() { desktop_.autostart.write("Velmoriax"); }
+    void EraseIniWin() { desktop_.autostart.erase("Velmoriax"); }
 
     // What a handler does besides writing its key.
     void writeOrEraseAutostart();
@@ -123,7 +120,7 @@ private:
     OptionHolders& holders() { return record_.options.holders; }
 
     ProcessRecord& record_;
-    Links links_;
+    Desktop desktop_;
     OptionControls state_;
 };
 

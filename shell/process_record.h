@@ -4,6 +4,7 @@
 #include "shell/options_store.h"
 #include "shell/shell_state.h"
 #include "tarot/card_catalogue.h"
+#include "tarot/oracle_reading.h"
 
 namespace velmoriax::shell {
 
@@ -14,6 +15,7 @@ struct ProcessRecord {
     ShellState shell;
     OptionsStore options;
     tarot::CardState cards;
+    tarot::OracleState oracle;
 };
 
 } // namespace velmoriax::shell

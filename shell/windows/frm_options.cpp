@@ -3,10 +3,9 @@
 
 #include "shell/modules.h"
 #include "shell/option_values.h"
-#include "shell/task_bar_metrics.h"
 #include "ui_frm_options.h"
 
-#include <QPointer>
+#include <QAbstractButton>
 
 namespace velmoriax::shell {
 
@@ -24,19 +23,11 @@ void forEachOption(const QWidget& window, Work work) {
     }
 }
 
-/// Which throw the oracle takes next.
-void setRealThrow(ProcessRecord& /*record*/, bool /*real*/) {}
-
-OptionsDialog::Links linksOf(Process& process) {
-    return {process.desktop.autostart, process.desktop.boxes,
-            [&process] { getTaskBarMetrics(process.desktop.taskBar, process.record.shell); },
-            [&process](bool real) { setRealThrow(process.record, real); }};
-}
-
 } // namespace
 
 FrmOptions::FrmOptions(Process& process) :
-    SecondaryWindow(process), ui_(std::make_unique<Ui::FrmOptions>()), dialog_(process.record, linksOf(process)) {
+    SecondaryWindow(process), ui_(std::make_unique<Ui::FrmOptions>()),
+    dialog_(process.record, {process.desktop.autostart, process.desktop.boxes, process.desktop.taskBar}) {
     ui_->setupUi(this);
     for (const ModuleRow& row : modules) ui_->Combolist->addItem(text(row.initialText));
     for (const AlertLevel& level : alertLevels) ui_->ComboBio->addItem(text(level.caption));

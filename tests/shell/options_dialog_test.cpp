@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/options_dialog.h"
-#include "shell/task_bar_metrics.h"
 #include "support/fakes.h"
 
 #include "base/western_text.h"
@@ -34,11 +33,8 @@ protected:
     test::FakeAutostart autostart_;
     test::FakeBoxes boxes_;
     test::FakeTaskBar taskBar_;
-    std::optional<bool> realThrow_;
     ProcessRecord record_{files_};
-    OptionsDialog dialog_{record_,
-                          {autostart_, boxes_, [this] { getTaskBarMetrics(taskBar_, record_.shell); },
-                           [this](bool real) { realThrow_ = real; }}};
+    OptionsDialog dialog_{record_, {autostart_, boxes_, taskBar_}};
 };
 
 TEST_F(OptionsDialogTest, AnEmptyFileShowsTheDefaults) {
@@ -53,7 +49,7 @@ TEST_F(OptionsDialogTest, AnEmptyFileShowsTheDefaults) {
     EXPECT_EQ(state[OptionList::ComboBio], 0);
     EXPECT_EQ(holders().muteCod, "nomuted");
     EXPECT_EQ(autostart_.writes, 0);
-    EXPECT_EQ(realThrow_, false);
+    EXPECT_FALSE(record_.oracle.realThrow);
 }
 
 TEST_F(OptionsDialogTest, StoredValuesAreComparedExactly) {
@@ -84,7 +80,7 @@ TEST_F(OptionsDialogTest, StoredValuesAreComparedExactly) {
     };
     for (const Row& row : rows) {
         write(std::string("[opciones]\r\n") + row.line + "\r\n");
-        OptionsDialog dialog{record_, {autostart_, boxes_, [] {}, [](bool) {}}};
+        OptionsDialog dialog{record_, {autostart_, boxes_, taskBar_}};
         open(dialog);
         EXPECT_EQ(dialog.state()[row.option].on, row.on) << row.line << ": " << row.reason;
     }
@@ -126,7 +122,7 @@ TEST_F(OptionsDialogTest, AClickWritesItsKeyAndTheHolderThatActsAtOnce) {
         dialog_.click(row.option);
         EXPECT_EQ(option(row.key), row.value) << controlName(row.option);
         if (row.holder) EXPECT_EQ(holders().*row.holder, row.value) << controlName(row.option);
-        if (row.key == key::tirada) EXPECT_EQ(realThrow_, row.option == O::OptReal);
+        if (row.key == key::tirada) EXPECT_EQ(record_.oracle.realThrow, row.option == O::OptReal);
     }
     EXPECT_EQ(files_.at("\\opciones.ini"), base::toWestern(wholeFile)) << "each change went to its own line, and back";
 }
@@ -156,7 +152,7 @@ TEST_F(OptionsDialogTest, TheAutostartEntryFollowsTheBoxAndIsRenewedAtEachOpenin
     EXPECT_EQ(option(key::iniciarConWindows), "True");
 
     autostart_.entries.clear(); // somebody took it away
-    OptionsDialog again{record_, {autostart_, boxes_, [] {}, [](bool) {}}};
+    OptionsDialog again{record_, {autostart_, boxes_, taskBar_}};
     open(again);
     EXPECT_EQ(autostart_.entries.size(), 1U);
     again.click(O::CheckWin);
@@ -186,8 +182,7 @@ TEST_F(OptionsDialogTest, ThePersonalTipNeedsThePanelAtTheBottom) {
     EXPECT_EQ(holders().estiloTooltips, "personal");
 
     panelAt(platform::TaskBarPosition::topEdge);
-    OptionsDialog later{record_,
-                        {autostart_, boxes_, [this] { getTaskBarMetrics(taskBar_, record_.shell); }, [](bool) {}}};
+    OptionsDialog later{record_, {autostart_, boxes_, taskBar_}};
     open(later);
     EXPECT_EQ(boxes_.shown.size(), 2U) << "a stored personal style is tested at each opening";
     EXPECT_FALSE(record_.shell.taskBarAtBottom);
