@@ -5,6 +5,8 @@
 #include "platform/qt/panel_position.h"
 #include "platform/qt/session.h"
 #include "platform/qt/system_clock.h"
+#include "shell/windows/frm_about.h"
+#include "shell/windows/frm_options.h"
 #include "shell/windows/frm_timer.h"
 #include "shell/windows/frm_tool_tip.h"
 #include "shell/windows/look.h"
@@ -67,6 +69,8 @@ void addWindows(shell::WindowRegistry& windows) {
     windows.addSecondary(sky::FrmMoonPhase::windowName, makeBeside<sky::FrmMoonPhase>);
     windows.addSecondary("Notif", makeBeside<shell::Notif>);
     windows.addSecondary("FrmToolTip", makeBeside<shell::FrmToolTip>);
+    windows.addSecondary("FrmOptions", makeBeside<shell::FrmOptions>);
+    windows.addSecondary("frmAbout", makeBeside<shell::frmAbout>);
 }
 
 void refuseSecondInstance(platform::MessageBoxes& boxes) {

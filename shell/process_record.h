@@ -8,6 +8,7 @@
 #include "shell/shell_state.h"
 #include "sky/sky_state.h"
 #include "tarot/card_catalogue.h"
+#include "tarot/oracle_reading.h"
 
 #include <cstdint>
 
@@ -25,6 +26,7 @@ struct ProcessRecord {
     biorhythm::AlertRecord alerts;
     AgentRecord agent;
     std::int16_t gaugeTicks = 0; ///< minutes since the average gauge was drawn anew, over all changes of module
+    tarot::OracleState oracle;
 };
 
 } // namespace velmoriax::shell

@@ -41,7 +41,7 @@ QDate dateOf(base::CivilDate date) {
 
 Frmoracle::Frmoracle(shell::Process& process) :
     ModuleWindow(process, shell::Module::oracle), ui_(std::make_unique<Ui::Frmoracle>()),
-    results_(oracleLog, "MnuRegResult", *this, process) {
+    results_(oracleLog, "MnuRegResult", *this, process), state_(process.record.oracle) {
     openPictures();
     ui_->setupUi(this);
     suits_ = {{{Suit::batons, ui_->TxtBas, ui_->ARButtonAcepBas, ui_->imgbas},
@@ -123,6 +123,7 @@ AmbientServices Frmoracle::ambience() const {
 }
 
 void Frmoracle::ownLoad() {
+    state_ = {};
     state_.readingDate = base::civilDateOf(desktop().clock.now());
     readThrowOption(state_, record().options);
     ui_->XPButton1->setText(QString::fromStdString(dateButtonCaption(state_.readingDate)));

@@ -77,7 +77,7 @@ private:
     std::unique_ptr<Ui::Frmoracle> ui_;
     std::array<SuitControls, 4> suits_;
     ResultMenu results_;
-    OracleState state_;
+    OracleState& state_; ///< the process's record; a reading begins anew with the window
     AmbientSound sound_;
     QTimer timerMidi_;
 };

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/options_dialog.h"
+#include "support/fakes.h"
+
+#include "base/western_text.h"
+
+#include <gtest/gtest.h>
+
+namespace velmoriax::shell {
+namespace {
+
+using O = Option;
+
+/// A file that holds every key, so that opening the dialog finds nothing to fill in.
+constexpr const char* wholeFile =
+    "[opciones]\r\nTirada=objetiva\r\nIniciar con Windows=False\r\nIniciar Minimizado=False\r\nMódulo "
+    "Inicial=Oracle\r\n"
+    "Nivel Alertas=None\r\nDesactivar Tooltips=ToolTips on\r\nEstilo Tooltips=windows xp\r\nHemisferio=Norte\r\n"
+    "tipocartas=marsellaone\r\nModo Silencioso=nomudo\r\nMute cod=nomuted\r\nBackground Sound=NoBgSound\r\n"
+    "Minimizar=systray\r\n";
+
+class OptionsDialogTest : public testing::Test {
+protected:
+    void write(std::string_view utf8) { files_.at("\\opciones.ini") = base::toWestern(utf8); }
+    std::string option(std::string_view key) const { return record_.options.option(key); }
+    OptionHolders& holders() { return record_.options.holders; }
+    void open(OptionsDialog& dialog) { dialog.LeerIni(record_.options.fileName(), "opciones", ""); }
+    void panelAt(platform::TaskBarPosition::Edge edge) {
+        taskBar_.where = platform::TaskBarPosition{0, 0, 100, 30, edge};
+    }
+
+    test::FakeFiles files_;
+    test::FakeAutostart autostart_;
+    test::FakeBoxes boxes_;
+    test::FakeTaskBar taskBar_;
+    ProcessRecord record_{files_};
+    OptionsDialog dialog_{record_, {autostart_, boxes_, taskBar_}};
+};
+
+TEST_F(OptionsDialogTest, AnEmptyFileShowsTheDefaults) {
+    open(dialog_);
+    const OptionControls& state = dialog_.state();
+    for (const O on : {O::OptObj, O::OptionXP, O::OptionNorte, O::OptionBeauty, O::OptionSystray, O::CheckCardDayMute})
+        EXPECT_TRUE(state[on].on) << controlName(on);
+    for (const O off : {O::OptReal, O::CheckWin, O::CheckMini, O::CheckTooltips, O::OptionPersonal, O::OptionSur,
+                        O::OptionClassic, O::OptionFree, O::CheckNoSound, O::CheckBgSound, O::OptionToolbar})
+        EXPECT_FALSE(state[off].on) << controlName(off);
+    EXPECT_EQ(state[OptionList::Combolist], 0);
+    EXPECT_EQ(state[OptionList::ComboBio], 0);
+    EXPECT_EQ(holders().muteCod, "nomuted");
+    EXPECT_EQ(autostart_.writes, 0);
+    EXPECT_FALSE(record_.oracle.realThrow);
+}
+
+TEST_F(OptionsDialogTest, StoredValuesAreComparedExactly) {
+    struct Row {
+        const char* line;
+        O option;
+        bool on;
+        const char* reason;
+    };
+    const Row rows[] = {
+        {"Tirada=real", O::OptReal, true, "the one text of the real throw"},
+        {"Tirada=Real", O::OptObj, true, "another case is another text"},
+        {"Iniciar con Windows=True", O::CheckWin, true, "on"},
+        {"Iniciar con Windows=Verdadero", O::CheckWin, false, "the Spanish word counts in modules alone"},
+        {"Iniciar Minimizado=True", O::CheckMini, true, "on"},
+        {"Desactivar Tooltips=ToolTips off", O::CheckTooltips, true, "the box says what is off"},
+        {"Hemisferio=Sur", O::OptionSur, true, "south"},
+        {"Hemisferio=sur", O::OptionNorte, true, "all else is north"},
+        {"tipocartas=marsellaclass", O::OptionClassic, true, "second deck"},
+        {"tipocartas=oldones", O::OptionFree, true, "third deck"},
+        {"tipocartas=foo", O::OptionBeauty, true, "an unknown deck shows as the first"},
+        {"tipocartas=toolbar", O::OptionBeauty, true, "a value of another group chooses nothing here"},
+        {"Modo Silencioso=mudo", O::CheckNoSound, true, "silent"},
+        {"Mute cod=muted", O::CheckCardDayMute, false, "the box says the opposite of the key"},
+        {"Background Sound=SiBgSound", O::CheckBgSound, true, "on"},
+        {"Minimizar=toolbar", O::OptionToolbar, true, "toolbar"},
+        {"Minimizar=x", O::OptionSystray, true, "the dialog shows the tray where the start takes the toolbar"},
+    };
+    for (const Row& row : rows) {
+        write(std::string("[opciones]\r\n") + row.line + "\r\n");
+        OptionsDialog dialog{record_, {autostart_, boxes_, taskBar_}};
+        open(dialog);
+        EXPECT_EQ(dialog.state()[row.option].on, row.on) << row.line << ": " << row.reason;
+    }
+}
+
+TEST_F(OptionsDialogTest, AClickWritesItsKeyAndTheHolderThatActsAtOnce) {
+    struct Row {
+        O option;
+        std::string_view key;
+        const char* value;
+        std::string OptionHolders::*holder;
+    };
+    using H = OptionHolders;
+    const Row rows[] = {
+        {O::CheckMini, key::iniciarMinimizado, "True", nullptr},
+        {O::CheckMini, key::iniciarMinimizado, "False", nullptr},
+        {O::OptReal, key::tirada, "real", nullptr},
+        {O::OptObj, key::tirada, "objetiva", nullptr},
+        {O::OptionClassic, key::tipocartas, "marsellaclass", &H::tipocartas},
+        {O::OptionFree, key::tipocartas, "oldones", &H::tipocartas},
+        {O::OptionBeauty, key::tipocartas, "marsellaone", &H::tipocartas},
+        {O::OptionToolbar, key::minimizar, "toolbar", &H::minimizeTo},
+        {O::OptionSystray, key::minimizar, "systray", &H::minimizeTo},
+        {O::OptionSur, key::hemisferio, "Sur", &H::hemisferio},
+        {O::OptionNorte, key::hemisferio, "Norte", &H::hemisferio},
+        {O::CheckNoSound, key::modoSilencioso, "mudo", &H::modoSilencioso},
+        {O::CheckNoSound, key::modoSilencioso, "nomudo", &H::modoSilencioso},
+        {O::CheckCardDayMute, key::muteCod, "muted", &H::muteCod},
+        {O::CheckCardDayMute, key::muteCod, "nomuted", &H::muteCod},
+        {O::CheckBgSound, key::backgroundSound, "SiBgSound", &H::bgSound},
+        {O::CheckBgSound, key::backgroundSound, "NoBgSound", &H::bgSound},
+        {O::CheckTooltips, key::desactivarTooltips, "ToolTips off", &H::tooltips},
+        {O::CheckTooltips, key::desactivarTooltips, "ToolTips on", &H::tooltips},
+        {O::OptionXP, key::estiloTooltips, "windows xp", &H::estiloTooltips},
+    };
+    write(wholeFile);
+    open(dialog_);
+    for (const Row& row : rows) {
+        dialog_.click(row.option);
+        EXPECT_EQ(option(row.key), row.value) << controlName(row.option);
+        if (row.holder) EXPECT_EQ(holders().*row.holder, row.value) << controlName(row.option);
+        if (row.key == key::tirada) EXPECT_EQ(record_.oracle.realThrow, row.option == O::OptReal);
+    }
+    EXPECT_EQ(files_.at("\\opciones.ini"), base::toWestern(wholeFile)) << "each change went to its own line, and back";
+}
+
+TEST_F(OptionsDialogTest, OpeningTurnsTheAlertLevelToTheLoudestAndLeavesAWholeFileAlone) {
+    write(wholeFile);
+    record_.options.readAtStart();
+    ASSERT_EQ(holders().alertLevel, "zero");
+    open(dialog_);
+    EXPECT_EQ(holders().alertLevel, "maxi") << "English text against the Spanish table";
+    EXPECT_EQ(files_.at("\\opciones.ini"), base::toWestern(wholeFile));
+
+    dialog_.choose(OptionList::ComboBio, 5);
+    EXPECT_EQ(option(key::nivelAlertas), "Medium (change of phase + critical  + actual s.)");
+    EXPECT_EQ(holders().alertLevel, "maxi");
+    record_.options.readAtStart();
+    EXPECT_EQ(holders().alertLevel, "med1") << "the next start reads the file";
+
+    dialog_.choose(OptionList::Combolist, 5);
+    EXPECT_EQ(option(key::moduloInicial), "Biorhythms");
+}
+
+TEST_F(OptionsDialogTest, TheAutostartEntryFollowsTheBoxAndIsRenewedAtEachOpening) {
+    open(dialog_);
+    dialog_.click(O::CheckWin);
+    EXPECT_EQ(autostart_.entries, std::set<std::string>{"Velmoriax"});
+    EXPECT_EQ(option(key::iniciarConWindows), "True");
+
+    autostart_.entries.clear(); // somebody took it away
+    OptionsDialog again{record_, {autostart_, boxes_, taskBar_}};
+    open(again);
+    EXPECT_EQ(autostart_.entries.size(), 1U);
+    again.click(O::CheckWin);
+    EXPECT_TRUE(autostart_.entries.empty());
+    EXPECT_EQ(option(key::iniciarConWindows), "False");
+}
+
+TEST_F(OptionsDialogTest, ThePersonalTipNeedsThePanelAtTheBottom) {
+    write(wholeFile);
+    open(dialog_);
+    panelAt(platform::TaskBarPosition::rightEdge);
+    dialog_.click(O::OptionPersonal);
+    const test::FakeBoxes::Shown refusal{platform::BoxIcon::warning,
+                                         "Personal tooltip only is supported with the taskbar at the bottom.",
+                                         "Info Tooltip"};
+    EXPECT_EQ(boxes_.shown, std::vector{refusal});
+    EXPECT_TRUE(dialog_.state()[O::OptionXP].on);
+    EXPECT_TRUE(dialog_.state()[O::CheckNoSound].enabled);
+    EXPECT_EQ(option(key::estiloTooltips), "windows xp");
+
+    panelAt(platform::TaskBarPosition::bottomEdge);
+    dialog_.click(O::OptionPersonal);
+    EXPECT_EQ(boxes_.shown.size(), 1U);
+    EXPECT_TRUE(record_.shell.taskBarAtBottom);
+    EXPECT_FALSE(dialog_.state()[O::CheckNoSound].enabled);
+    EXPECT_EQ(option(key::estiloTooltips), "personal");
+    EXPECT_EQ(holders().estiloTooltips, "personal");
+
+    panelAt(platform::TaskBarPosition::topEdge);
+    OptionsDialog later{record_, {autostart_, boxes_, taskBar_}};
+    open(later);
+    EXPECT_EQ(boxes_.shown.size(), 2U) << "a stored personal style is tested at each opening";
+    EXPECT_FALSE(record_.shell.taskBarAtBottom);
+    EXPECT_EQ(option(key::estiloTooltips), "windows xp");
+    EXPECT_FALSE(later.state()[O::CheckNoSound].enabled) << "the file said personal when the dialog opened";
+}
+
+TEST_F(OptionsDialogTest, TheSilentModeOpensAndClosesWithTheStyle) {
+    const auto silent = [&] { return dialog_.state()[O::CheckNoSound].enabled; };
+    open(dialog_);
+    EXPECT_FALSE(silent()) << "a missing style shows as classic and keeps it closed";
+    dialog_.click(O::OptionXP);
+    EXPECT_TRUE(silent()) << "a click on what is chosen already";
+
+    panelAt(platform::TaskBarPosition::bottomEdge);
+    dialog_.click(O::OptionPersonal);
+    dialog_.click(O::CheckTooltips);
+    for (const O option : {O::OptionXP, O::OptionPersonal, O::CheckNoSound})
+        EXPECT_FALSE(dialog_.state()[option].enabled) << controlName(option);
+    dialog_.click(O::CheckTooltips);
+    EXPECT_TRUE(silent()) << "with the personal style chosen, until the next opening";
+}
+
+} // namespace
+} // namespace velmoriax::shell

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/windows/frm_about.h"
+#include "shell/windows/frm_options.h"
+#include "shell/windows/link_label.h"
+#include "support/window_fixture.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QTest>
+
+#include <fstream>
+#include <iterator>
+
+namespace velmoriax::shell {
+namespace {
+
+class SecondaryWindowsTest : public test::WindowFixture {
+protected:
+    template<typename Window>
+    Window& touch(const std::string& name) {
+        windows.addSecondary(name, [](Process& p) -> SecondaryWindow* { return new Window(p); });
+        auto& window = static_cast<Window&>(windows.touch(name, process));
+        window.showNormalState();
+        return window;
+    }
+    /// At the left end, where the mark stands: a button answers on its mark and caption alone.
+    void click(const QWidget& window, const char* name) {
+        auto& widget = control<QWidget>(window, name);
+        QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(12, widget.height() / 2));
+    }
+};
+
+TEST_F(SecondaryWindowsTest, EveryOptionStandsUnderItsCaptionAndObeysTheMouse) {
+    const FrmOptions& window = touch<FrmOptions>("FrmOptions");
+    EXPECT_EQ(window.windowTitle(), "Options");
+    struct Row {
+        const char* name;
+        const char* caption;
+        std::string_view key;
+        const char* value;
+    };
+    const Row rows[] = {
+        {"CheckWin", "With Windows", key::iniciarConWindows, "True"},
+        {"CheckMini", "Minimized", key::iniciarMinimizado, "True"},
+        {"OptReal", "Real", key::tirada, "real"},
+        {"OptObj", "Objective", key::tirada, "objetiva"},
+        {"OptionClassic", "Marseilles classic", key::tipocartas, "marsellaclass"},
+        {"OptionFree", "Esoteric Tarot", key::tipocartas, "oldones"},
+        {"OptionBeauty", "Marseilles beautiful", key::tipocartas, "marsellaone"},
+        {"CheckCardDayMute", "Show Card of Day at midnight", key::muteCod, "muted"},
+        {"OptionToolbar", "Toolbar", key::minimizar, "toolbar"},
+        {"OptionSystray", "Systray", key::minimizar, "systray"},
+        {"OptionSur", "South", key::hemisferio, "Sur"},
+        {"OptionNorte", "North", key::hemisferio, "Norte"},
+        {"OptionXP", "Classic style ToolTip ", key::estiloTooltips, "windows xp"},
+        {"CheckNoSound", "Silent mode tooltip (only classic style)", key::modoSilencioso, "mudo"},
+        {"OptionPersonal", "Personal ToolTip ", key::estiloTooltips, "personal"},
+        {"CheckBgSound", "Enable sound when changing of module", key::backgroundSound, "SiBgSound"},
+        {"CheckTooltips", "Deactivate Tooltips", key::desactivarTooltips, "ToolTips off"},
+    };
+    taskBar.where = platform::TaskBarPosition{0, 770, 1280, 800, platform::TaskBarPosition::bottomEdge};
+    for (const Row& row : rows) {
+        EXPECT_EQ(control<QAbstractButton>(window, row.name).text().remove('&'), row.caption);
+        click(window, row.name);
+        EXPECT_EQ(record.options.option(row.key), row.value) << row.name;
+    }
+    EXPECT_FALSE(control<QWidget>(window, "OptionXP").isEnabled()) << "the tips are off now";
+}
+
+TEST_F(SecondaryWindowsTest, TheListsFollowTheKeyboard) {
+    const FrmOptions& window = touch<FrmOptions>("FrmOptions");
+    auto& levels = control<QComboBox>(window, "ComboBio");
+    EXPECT_EQ(levels.count(), 9);
+    EXPECT_EQ(control<QComboBox>(window, "Combolist").count(), 6);
+    QTest::keyClick(&levels, Qt::Key_End);
+    EXPECT_EQ(record.options.option(key::nivelAlertas), "Maximum (c. phase + critical + Crossings + actual s.)");
+}
+
+TEST_F(SecondaryWindowsTest, ARefusedChoiceJumpsBackToTheClassicStyle) {
+    const FrmOptions& window = touch<FrmOptions>("FrmOptions");
+    taskBar.where = platform::TaskBarPosition{0, 0, 1280, 30, platform::TaskBarPosition::topEdge};
+    click(window, "OptionPersonal");
+    EXPECT_EQ(boxes.shown.size(), 1U);
+    EXPECT_TRUE(control<QAbstractButton>(window, "OptionXP").isChecked());
+}
+
+TEST_F(SecondaryWindowsTest, OnlyTheButtonOfTheOptionsGivesTheTrayTipFree) {
+    record.shell.trayBusy = true;
+    QTest::keyClick(&touch<FrmOptions>("FrmOptions"), Qt::Key_Escape);
+    EXPECT_EQ(windows.loaded("FrmOptions"), nullptr);
+    EXPECT_TRUE(record.shell.trayBusy);
+    click(touch<FrmOptions>("FrmOptions"), "ARButtonAcep");
+    EXPECT_EQ(windows.loaded("FrmOptions"), nullptr);
+    EXPECT_FALSE(record.shell.trayBusy);
+}
+
+TEST_F(SecondaryWindowsTest, MnemonicsAreUnique) {
+    std::map<QChar, QString> taken;
+    const FrmOptions& window = touch<FrmOptions>("FrmOptions");
+    const auto take = [&](const QString& caption) {
+        const auto at = caption.indexOf('&');
+        ASSERT_GE(at, 0) << caption.toStdString();
+        const QChar letter = caption.at(at + 1).toLower();
+        EXPECT_TRUE(taken.emplace(letter, caption).second) << caption.toStdString();
+    };
+    for (const auto* button : window.findChildren<QAbstractButton*>()) take(button->text());
+    for (const auto* label : window.findChildren<QLabel*>()) take(label->text());
+}
+
+TEST_F(SecondaryWindowsTest, TheAboutBoxSpeaksFromTheSuppliedFile) {
+    std::ifstream supplied(VELMORIAX_DATA_DIR "/velmoriax.ini", std::ios::binary);
+    files.at("\\velmoriax.ini").assign(std::istreambuf_iterator<char>(supplied), {});
+    QApplication::setApplicationDisplayName("Velmoriax");
+    QApplication::setApplicationVersion("1.20.3");
+    record.shell.trayBusy = true;
+
+    frmAbout& window = touch<frmAbout>("frmAbout");
+    EXPECT_EQ(window.windowTitle(), "About Velmoriax");
+    EXPECT_EQ(control<QLabel>(window, "LblTitle").text(), "Velmoriax by ostrabe");
+    EXPECT_EQ(control<QLabel>(window, "lblVersion").text(), "Version: 1.20.3");
+    const QString paragraph = control<QLabel>(window, "lblDescription").text();
+    EXPECT_TRUE(paragraph.startsWith("In the ") && paragraph.endsWith(" Enjoy!")) << paragraph.toStdString();
+
+    click(window, "CommandInfo");
+    click(window, "LblUrl");
+    QTest::keyClick(&control<LinkLabel>(window, "LblMailto"), Qt::Key_Return);
+    EXPECT_EQ(opener.opened,
+              (std::vector<std::string>{files.directory + "/Velmoriax.html", "https://velmoriax.example/",
+                                        "mailto:hello@velmoriax.example"}));
+    window.close();
+    EXPECT_FALSE(record.shell.trayBusy) << "by the close box too";
+}
+
+TEST_F(SecondaryWindowsTest, AnAddressOfTheUsersOwnIsTaken) {
+    files.at("\\velmoriax.ini") = "[about]\r\nWeb=https://mirror.example/v\r\n";
+    click(touch<frmAbout>("frmAbout"), "LblUrl");
+    EXPECT_EQ(opener.opened, std::vector<std::string>{"https://mirror.example/v"});
+}
+
+TEST_F(SecondaryWindowsTest, ThePointerUnderlinesALinkAndTheFreeSurfaceTakesItAway) {
+    frmAbout& window = touch<frmAbout>("frmAbout");
+    auto& web = control<LinkLabel>(window, "LblUrl");
+    auto& mail = control<LinkLabel>(window, "LblMailto");
+    QTest::mouseMove(&web, QPoint(5, 5));
+    QTest::mouseMove(&mail, QPoint(5, 5));
+    EXPECT_TRUE(web.font().underline()) << "only the free surface takes it away";
+    EXPECT_TRUE(mail.font().underline());
+    QTest::mouseMove(&window, QPoint(4, 4));
+    EXPECT_FALSE(web.font().underline() || mail.font().underline());
+}
+
+} // namespace
+} // namespace velmoriax::shell
