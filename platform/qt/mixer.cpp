@@ -14,8 +14,8 @@ namespace {
 constexpr std::uintmax_t largestSong = 4U << 20U;
 constexpr std::uintmax_t largestWave = 64U << 20U;
 
-/// How long the opening waits to hear that a file is no song: long for a disk at work, short for the eye.
-constexpr std::chrono::milliseconds patience{30};
+/// How long the opening waits to hear that a file is no song: long for a disk that is awake, nothing for the eye.
+constexpr std::chrono::milliseconds patience{10};
 
 /// The bytes of a file; none when it is missing, unreadable or too large to be a sound.
 std::string soundBytes(const DiskFiles& files, const std::string& path, std::uintmax_t largest) {
