@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The two card backs: a blue engraved one for the suits, one of enamel and gold for the majors.
 
-A back must not tell which way up its card lies. Every drawing here is point-symmetric, and because paint noise and the light
-from the upper left are not, the finished picture is joined softly to its own half-turned image.
+A back must not tell which way up its card lies. Every drawing here is point-symmetric, and because paint noise and the
+light from the upper left are not, the finished picture is joined softly to its own half-turned image.
 """
 import math
 
@@ -18,12 +18,14 @@ CENTRE = (300, 540)
 
 
 def quarters(S):
-    """four contexts about the middle of the card, mirror images of each other; draw in the upper left to get all four"""
+    """Four contexts about the middle of the card, mirror images of each other: in each, draw what belongs to the upper
+    left."""
     return [S.at(*CENTRE, 1, rot, flip) for rot, flip in ((0, False), (0, True), (180, False), (180, True))]
 
 
 def symmetrised(image):
-    """the picture above its middle, its half-turned image below, blended across a broad band: exactly point-symmetric"""
+    """The picture above its middle and its half-turned image below, blended across a broad band: exactly
+    point-symmetric."""
     h = image.shape[0]
     y = (np.arange(h, dtype=np.float32) + .5) / h - .5
     upper = 1 - sstep(-.16, .16, y)

@@ -1,8 +1,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The deck of enamel and gold leaf: scenes of the majors painted with relief shading over a tooled field, in a gilt frame.
+"""The deck of enamel and gold leaf: scenes of the majors painted with relief shading over a tooled field, in a gilt
+frame.
 
-A picture is drawn several times, each time with another pen: flat colours, which parts are metal, outlines, hatching, skin. The
-distance of each pixel from the next line makes every shape swell like a cushion; that relief lights both the paint and the gold.
+A picture is drawn several times, each time with another pen: flat colours, which parts are metal, outlines, hatching,
+skin. The distance of each pixel from the next line makes every shape swell like a cushion; that relief lights both the
+paint and the gold.
 """
 import math
 from typing import NamedTuple
@@ -16,7 +18,7 @@ from kit import Layer, Mark, Scene, circ, pol, poly, ribbon
 PIGMENTS = {
     'flesh': '#f3cda6', 'white': '#f7efdc', 'iris': '#2a5c96', 'blush': '#d8552f', 'lip': '#b2241f', 'gold': '#d9a32c',
     'pearl': '#fbf6ea', 'blue': '#1e4596', 'sky': '#5f9bc6', 'red': '#a8182a', 'green': '#2c7350', 'hair': '#d79a34',
-    'wood': '#8f5a2b', 'stone': '#c9b48c', 'earth': '#4f6b35', 'dark': '#141a33', 'fire': '#e8651c', 'grey': '#8f93a0',
+    'wood': '#8f5a2b', 'stone': '#c9b48c', 'earth': '#4f6b35', 'dark': '#141a33', 'fire': '#e8651c',
     'bone': '#efe3c4', 'lapis': '#14285f', 'crimson': '#6d1020'}
 METAL = 'gold'                          # the pigment that is laid as leaf
 SMOOTH = ('flesh', 'white', 'iris')     # pigments whose modelling is kept faint
@@ -183,7 +185,8 @@ def ink_pen(mark):
     if mark.kind == 'fill':
         return 'fill="#fff"' + EVEN_ODD
     if mark.kind == 'ring':
-        return [f'fill="none" stroke="#000" stroke-width="{mark.w + 3.4}"', f'fill="none" stroke="#fff" stroke-width="{mark.w}"']
+        return [f'fill="none" stroke="#000" stroke-width="{mark.w + 3.4}"',
+                f'fill="none" stroke="#fff" stroke-width="{mark.w}"']
     if mark.kind == 'stroke':
         return f'fill="none" stroke="#000" stroke-linecap="round" stroke-width="{mark.w * .7}"'
     if mark.kind == 'line':
@@ -299,7 +302,8 @@ class Finish:
 
     def shadowed(self, image):
         """The shadow that the figures cast on the field."""
-        shadow = nd.shift(nd.gaussian_filter(self.plates.alpha, 4.5 * self.scale), (4 * self.scale, 3 * self.scale), order=0)
+        soft = nd.gaussian_filter(self.plates.alpha, 4.5 * self.scale)
+        shadow = nd.shift(soft, (4 * self.scale, 3 * self.scale), order=0)
         return image * (1 - .55 * np.clip(shadow, 0, 1))[..., None]
 
     def paint(self):
@@ -344,9 +348,10 @@ class Finish:
         return np.clip(image + bloom * .55, 0, 1)
 
 
-def render(draw, numeral, title, field='crimson', pattern=damask, seed=3, scale=2, fit=.955, drop=4, frame=frame_a, opening=None):
-    """The finished picture, `scale` pixels a unit. draw(S) draws the scene, pattern(S) the pattern of the field. The scene is
-    scaled by `fit` and lowered by `drop`, so that the frame cuts nothing off."""
+def render(draw, numeral, title, field='crimson', pattern=damask, seed=3, scale=2, fit=.955, drop=4, frame=frame_a,
+           opening=None):
+    """The finished picture, `scale` pixels a unit. draw(S) draws the scene, pattern(S) the pattern of the field. The
+    scene is scaled by `fit` and lowered by `drop`, so that the frame cuts nothing off."""
     picture, background = Scene(seed), Scene(9)
     with picture.at(CENTRE[0] - CENTRE[0] * fit, drop + CENTRE[1] - CENTRE[1] * fit, fit):
         draw(picture)

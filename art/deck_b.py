@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The deck of hand-coloured woodcuts: black lines printed from a worn block, colours washed in through stencils, on old paper."""
+"""The deck of hand-coloured woodcuts: black lines printed from a worn block, colours washed in through stencils, on old
+paper."""
 import numpy as np
 from scipy import ndimage as nd
 
@@ -9,7 +10,7 @@ from kit import Layer, Scene, rect
 PIGMENTS = {
     'flesh': '#edc5a0', 'white': '#f3e7c8', 'iris': '#2f5f96', 'blush': '#cf5535', 'lip': '#b0302a', 'gold': '#e3a92a',
     'pearl': '#f3e7c8', 'blue': '#1f4f8c', 'sky': '#86aebb', 'red': '#ae241f', 'green': '#6b8446', 'hair': '#e3a92a',
-    'wood': '#d29a58', 'stone': '#dcc8a0', 'earth': '#dcc67c', 'dark': '#23405f', 'fire': '#d86a2a', 'grey': '#b9b2a0',
+    'wood': '#d29a58', 'stone': '#dcc8a0', 'earth': '#dcc67c', 'dark': '#23405f', 'fire': '#d86a2a',
     'bone': '#efe0c0'}
 BLACK = '#1d1512'               # the printer's ink
 PAPER_WHITE = '#f6ead0'         # a colour equal to this leaves the paper as it is

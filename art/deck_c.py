@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The deck of gold engravings on midnight blue: emblems on an axis, each with a Hebrew letter, a numeral and the glyph of a
-planet, sign or element.
+"""The deck of gold engravings on midnight blue: emblems on an axis, each with a Hebrew letter, a numeral and the glyph
+of a planet, sign or element.
 
-Shapes are dark and hide what lies behind them, contours and lines are gold. What is drawn while a scene is `chased` is the
-other way round: dark lines cut into solid gold.
+Shapes are dark and hide what lies behind them, contours and lines are gold. What is drawn while a scene is `chased` is
+the other way round: dark lines cut into solid gold.
 """
 import numpy as np
 from scipy import ndimage as nd
@@ -13,7 +13,7 @@ from fx import fbm, grid, hexf, mix, ramp, raster
 from kit import Layer, Scene, circ, rect
 
 PIGMENTS = {
-    'night': '#0b1238', 'deep': '#070b25', 'ind': '#16205a', 'glow': '#24307a', 'flesh': '#131c52', 'white': '#10184a',
+    'night': '#0b1238', 'deep': '#070b25', 'ind': '#16205a', 'flesh': '#131c52', 'white': '#10184a',
     'gold': '#1a2260', 'red': '#141b50', 'blue': '#0e1644', 'sky': '#17235c', 'hair': '#18225c', 'iris': '#050818',
     'pearl': '#cfa94e', 'wood': '#10184a', 'stone': '#121a4e', 'dark': '#050818', 'green': '#0e1644', 'earth': '#0a1134',
     'fire': '#1d2668', 'leaf': '#e6c36a', 'bone': '#1a2460'}
@@ -45,7 +45,7 @@ def corner_fans(F):
             F.stroke('M56 0A56 56 0 0 1 0 56', 1.4)
             radial(F, 0, 0, 16, 52, 9, 2.4, 5, 95, 'both')
             F.fill('M0 0H15A15 15 0 0 1 0 15Z', 'leaf', 0)
-            dots(F, 0, 0, 60, 28, 1.6, 4, 364)
+            dots(F, 0, 0, 60, 7, 1.6, 4, 94)
 
 
 def head(F, letter):
@@ -61,7 +61,8 @@ def head(F, letter):
             x, y = 300 + side * dx, 60
             hollow = r * (1 + .5 * i)
             F.fill(circ(x, y, r), 'deep', 1.6)
-            F.add('line', f'M{x} {y - r}A{r} {r} 0 0 {limb} {x} {y + r}A{hollow} {hollow} 0 0 {terminator} {x} {y - r}Z')
+            F.add('line', f'M{x} {y - r}A{r} {r} 0 0 {limb} {x} {y + r}'
+                          f'A{hollow} {hollow} 0 0 {terminator} {x} {y - r}Z')
 
 
 def foot(F, numeral, name):
@@ -144,12 +145,13 @@ def foil(lines, away, rng, scale):
     down, right = np.gradient(nd.gaussian_filter(lines, 1.1))
     sheen = np.sin((column * .55 + row) / (95 * scale) + 1.5 * fbm(lines.shape, 200, rng, 2))
     unevenness = fbm(lines.shape, 30, rng, 2)
-    return ramp(np.clip(.60 + .20 * sheen + .13 * unevenness - 1.1 * (right + down) + .18 * np.clip(.6 - away, -.5, .6), 0, 1), GOLD)
+    lit = np.clip(.6 - away, -.5, .6)
+    return ramp(np.clip(.60 + .20 * sheen + .13 * unevenness - 1.1 * (right + down) + .18 * lit, 0, 1), GOLD)
 
 
 def render(card, seed=3, scale=2, frame=frame_c):
-    """The finished picture, `scale` pixels a unit. The card is a module or class with draw(S), NUM, HEB, GLYPH (numeral, letter
-    and the name of the glyph) and FOCUS, the place where the light is."""
+    """The finished picture, `scale` pixels a unit. The card is a module or class with draw(S), NUM, HEB, GLYPH
+    (numeral, letter and the name of the glyph) and FOCUS, the place where the light is."""
     rng = np.random.default_rng(seed)
     picture, border = Scene(seed), frame(card.NUM, card.HEB, card.GLYPH)
     card.draw(picture)
@@ -163,7 +165,8 @@ def render(card, seed=3, scale=2, frame=frame_c):
     shapes, gold = pull(fill_pen), pull(gold_pen)
     lines = gold[..., 0] * gold[..., 3]
     row, column = grid(lines.shape)
-    away = np.hypot((column - card.FOCUS[0] * scale) / (FOCUS_REACH[0] * scale), (row - card.FOCUS[1] * scale) / (FOCUS_REACH[1] * scale))
+    (x, y), (rx, ry) = card.FOCUS, FOCUS_REACH
+    away = np.hypot((column - x * scale) / (rx * scale), (row - y * scale) / (ry * scale))
     sky = starry_sky(away, rng, lines.shape)
     alpha = shapes[..., 3]
     colour = np.where(alpha[..., None] > .02, shapes[..., :3] / np.maximum(alpha[..., None], .02), 0)

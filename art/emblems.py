@@ -8,7 +8,7 @@ import math
 from contextlib import contextmanager
 
 from drawing import *      # the vocabulary of scenes, see drawing.py
-from engraving import *      # the vocabulary of scenes, see drawing.py
+from engraving import *    # and the engraver's
 
 
 # ---------- drawing aids ----------
@@ -144,11 +144,11 @@ def water(S, y0, y1, n=14, x0=36, x1=564, amp=4, pig='deep'):
             x += reach + length * S.random.uniform(.2, .7)
 
 
-def puffs(S, places, pig='night'):
-    """cloud of turned puffs: (x, y, r) from back to front"""
+def puffs(S, places, pig='night', turns=(.78, .57, .36)):
+    """cloud of turned puffs: (x, y, r) from back to front, each with arcs of these shares of r inside"""
     for x, y, r in places:
         S.fill(circ(x, y, r), pig, 2.8)
-        for q in (.78, .57, .36):
+        for q in turns:
             S.stroke(f'M{x - r * q:.1f} {y}A{r * q:.1f} {r * q:.1f} 0 0 1 {x + r * q:.1f} {y}', 1.3)
 
 
@@ -334,12 +334,12 @@ def arm(S, x, y, rot=0, length=200, wide=1, flip=False):
                 S.dot(i * 10 * w, 4, 2.4)
 
 
-def lemniscate(S, x, y, a, b, w=25, pig='deep'):
-    """infinity band of three lines, passing over itself"""
+def lemniscate(S, x, y, a, b, w=25, pig='deep', overlap=5):
+    """infinity band of three lines, passing over itself: `overlap` of its 96 steps to each side of the crossing lie on top"""
     p = [(x + a * math.cos(t) / (1 + math.sin(t) ** 2), y + b * math.sin(t) * math.cos(t) / (1 + math.sin(t) ** 2))
          for t in (2 * math.pi * i / 96 for i in range(96))]
     S.fill(poly(ribbon(p + p[:2], lambda t: w, 3)), pig, 3)
-    S.fill(poly(ribbon(p[19:30], lambda t: w, 3)), pig, 0)
+    S.fill(poly(ribbon(p[24 - overlap:25 + overlap], lambda t: w, 3)), pig, 0)
     for off in (-.28, 0, .28):
         q = p + p[:1]
         S.stroke(poly([(u[0] + n[0] * off * w, u[1] + n[1] * off * w) for u, n in zip(q, normals(q))], False), 2 if off else 4)

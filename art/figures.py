@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Parts of figures: faces, hair, hands, crowns.
 
-Every part is drawn around its own origin; x and y place it, k scales it, rot turns it and flip mirrors it. A face is about
-100 units high, a hand about 70 long.
+Every part is drawn around its own origin; x and y place it, k scales it, rot turns it and flip mirrors it. A face is
+about 100 units high, a hand about 70 long.
 """
 import math
 
@@ -15,8 +15,8 @@ FINGERTIP = .82                 # width of a finger at its tip, as a share of th
 
 # ---------- faces ----------
 def eye(S, x, y, k=1, far=1, look=0, w=1):
-    """Almond eye, about 24 units wide. far narrows the farther eye of a turned head, look moves the iris to the right, w
-    scales the width of the lines."""
+    """Almond eye, about 24 units wide. far narrows the farther eye of a turned head, look moves the iris to the right,
+    w scales the width of the lines."""
     with S.at(x, y, k):
         S.fill([(-10 * far, 1, 'c'), (-3 * far, -5), (4 * far, -5), (10 * far, .5, 'c'), (3 * far, 4.5), (-4 * far, 4.5)],
                'white', 0)
@@ -29,9 +29,9 @@ def eye(S, x, y, k=1, far=1, look=0, w=1):
 
 
 def face(S, x, y, k=1, turn=0, flip=False, sex='m', lw=4, mood=0, look=None, age=0):
-    """Face without hair. turn goes from 0, frontal, to 1, three quarters to the viewer's left (flip for the right). mood lifts
-    the inner ends of the brows downwards in units, negative for dread; look moves the eyes, which by default follow the turn;
-    age adds wrinkles to the brow."""
+    """Face without hair. turn goes from 0, frontal, to 1, three quarters to the viewer's left (flip for the right).
+    mood lifts the inner ends of the brows downwards in units, negative for dread; look moves the eyes, which by default
+    follow the turn; age adds wrinkles to the brow."""
     t = -turn * .8                  # how far the features slide towards the turn
     left, right = 36 - 5 * turn, 36 + 1 * turn
     jaw = 27 if sex == 'f' else 30
@@ -91,7 +91,8 @@ def _cheek_shade(S, turn, t, right):
 
 # ---------- hair ----------
 def curls(S, pts, r, pig='hair', lw=3.5):
-    """Mass of curls: at each of the points a ball of the radius r with a spiral line, turned left and right by turns."""
+    """Mass of curls: at each of the points a ball of the radius r with a spiral line, turned left and right by
+    turns."""
     for i, (x, y) in enumerate(pts):
         S.fill(circ(x, y, r), pig, lw)
         side = 1 if i % 2 else -1
@@ -123,8 +124,8 @@ def finger(S, pts, w=12, lw=3):
 
 
 def hand_fist(S, x, y, k=1, rot=0, flip=False, lw=3.2, rod=None):
-    """Fist closed round an upright rod through the origin: wrist at the right, fingers wrapped to the left. rod() draws what it
-    holds, between palm and fingers, in the coordinates of the scene."""
+    """Fist closed round an upright rod through the origin: wrist at the right, fingers wrapped to the left. rod() draws
+    what it holds, between palm and fingers, in the coordinates of the scene."""
     with S.at(x, y, k, rot, flip):
         S.fill([(34, -13, 'c'), (12, -20), (-4, -22), (-10, -12), (-10, 16), (-2, 22), (14, 19), (34, 12, 'c')], 'flesh', lw)
     if rod:
@@ -164,8 +165,8 @@ def hand_open(S, x, y, k=1, rot=0, flip=False, lw=3.2):
 
 # ---------- crowns ----------
 def crown(S, x, y, k=1, points=5, pig='gold', lw=4, w=46, h=34):
-    """Open crown with pearls on its points and jewels on its rim. The origin is on the rim; w is half its width, h the height of
-    the points, of which the middle one stands out."""
+    """Open crown with pearls on its points and jewels on its rim. The origin is on the rim; w is half its width, h the
+    height of the points, of which the middle one stands out."""
     with S.at(x, y, k):
         across = [-w + 2 * w * i / (points - 1) for i in range(points)]
         lift = [6 if i == points // 2 else 0 for i in range(points)]

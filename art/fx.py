@@ -1,8 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """What the finishing of pictures is made of: SVG to pixels, noise, blending, colour ramps, paper.
 
-Pictures are float arrays of height x width (x channels) with values 0 to 1; masks and noise have no channels. Everything that
-looks random draws from a numpy generator that the caller hands in, so the order of the calls is part of a picture.
+Pictures are float arrays of height x width (x channels) with values 0 to 1; masks and noise have no channels.
+Everything that looks random draws from a numpy generator that the caller hands in, so the order of the calls is part of
+a picture.
 """
 import io
 import subprocess
@@ -17,8 +18,9 @@ FOXING_SPOTS = 7
 
 def raster(svg, scale=2, width=600):
     """RGBA pixels of a drawing that is `width` units wide, at `scale` pixels a unit."""
-    png = subprocess.run(['rsvg-convert', '-w', str(int(width * scale))], input=svg.encode(), capture_output=True, check=True)
-    return np.asarray(Image.open(io.BytesIO(png.stdout)).convert('RGBA'), dtype=np.float32) / 255
+    command = ['rsvg-convert', '-w', str(int(width * scale))]
+    png = subprocess.run(command, input=svg.encode(), capture_output=True, check=True).stdout
+    return np.asarray(Image.open(io.BytesIO(png)).convert('RGBA'), dtype=np.float32) / 255
 
 
 def hexf(colour):
@@ -33,8 +35,8 @@ def grid(shape):
 
 # ---------- noise ----------
 def noise(shape, cell, rng, stretch=1):
-    """Smooth noise -1 to 1 whose features are about `cell` pixels wide and `stretch` times as high. Computed on a coarser grid
-    with cubic interpolation and enlarged linearly, which is not to be seen and several times as fast."""
+    """Smooth noise -1 to 1 whose features are about `cell` pixels wide and `stretch` times as high. Computed on a
+    coarser grid with cubic interpolation and enlarged linearly, which is not to be seen and several times as fast."""
     h, w = shape
     tall = cell * stretch
     coarseness = max(1, int(min(cell, tall) / 4))
@@ -61,11 +63,10 @@ def fbm(shape, cell, rng, octaves=4, stretch=1):
 # ---------- arrays ----------
 def warp(image, dx, dy):
     """The picture with each pixel taken from dx, dy pixels beside it."""
-    row, column = grid(image.shape[:2])
-    source = [row + dy, column + dx]
-    if image.ndim == 2:
-        return nd.map_coordinates(image, source, order=1, mode='nearest')
-    return np.stack([nd.map_coordinates(channel, source, order=1, mode='nearest') for channel in np.moveaxis(image, -1, 0)], -1)
+    if image.ndim == 3:
+        return np.stack([warp(image[..., channel], dx, dy) for channel in range(image.shape[2])], -1)
+    row, column = grid(image.shape)
+    return nd.map_coordinates(image, [row + dy, column + dx], order=1, mode='nearest')
 
 
 def sstep(low, high, x):

@@ -87,7 +87,8 @@ def nib(pts, w):
 
 
 def glyph(S, name, x, y, k=.5, w=13, kind='leaf'):
-    """Draws a glyph about x, y, 100 k units in size, as marks of the given kind; w is the nib's width before scaling."""
+    """Draws a glyph about x, y, 100 k units in size, as marks of the given kind; w is the nib's width before
+    scaling."""
     with S.at(x, y, k):
         for stroke in GLYPHS[name]:
             S.add(kind, nib(stroke, w))

@@ -1,13 +1,14 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The drawing kit: outlines, scenes and the writing of scenes as SVG.
 
-A scene is a display list of marks: filled shapes, brush lines, hatches. It says what is drawn and with which pigment; the
-renderers of the decks decide how each kind of mark looks, and write the list several times, once for each of their plates.
+A scene is a display list of marks: filled shapes, brush lines, hatches. It says what is drawn and with which pigment;
+the renderers of the decks decide how each kind of mark looks, and write the list several times, once for each of their
+plates.
 
-Lengths are in drawing units, of which a card has 600 x 1080, y growing downwards; angles are in degrees, 0 to the right,
-growing clockwise. A curve is given by the points (x, y) that it runs through; a third element 'c' makes a point a corner.
-An outline is the path data of SVG. In scenes S (or F, for a frame) is the scene, k a scale, w and lw the width of a line or
-contour, pig a pigment, rot a turn in degrees and flip a mirroring from left to right.
+Lengths are in drawing units, of which a card has 600 x 1080, y growing downwards; angles are in degrees, 0 to the
+right, growing clockwise. A curve is given by the points (x, y) that it runs through; a third element 'c' makes a point
+a corner. An outline is the path data of SVG. In scenes S (or F, for a frame) is the scene, k a scale, w and lw the
+width of a line or contour, pig a pigment, rot a turn in degrees and flip a mirroring from left to right.
 """
 import math
 import random
@@ -18,7 +19,7 @@ from typing import NamedTuple, Optional
 __all__ = ['CARD', 'Layer', 'Mark', 'Scene', 'circ', 'normals', 'path', 'pol', 'poly', 'rect', 'ribbon', 'sample']
 
 CARD = (600, 1080)              # drawing units of a card
-TENSION = 1 / 6                 # of the chord between a point's neighbours, how far its control points lie off: Catmull-Rom
+TENSION = 1 / 6                 # distance of a point's control points, as a share of the chord between its neighbours
 CAP_BULGE = .8                  # depth of a ribbon's rounded end, in half widths
 TIP_WIDTH = .3                  # what a wedge of hatching keeps of its width at its end
 UNEVENNESS = .12                # of the step, how far the lines of a hatched field stray
@@ -84,8 +85,8 @@ def sample(pts, closed=False, n=10):
         for i in range(1, n + 1):
             t = i / n
             u = 1 - t
-            places.append(tuple(u ** 3 * start[axis] + 3 * u * u * t * c1[axis] + 3 * u * t * t * c2[axis] + t ** 3 * end[axis]
-                                for axis in (0, 1)))
+            places.append(tuple(u ** 3 * p0 + 3 * u * u * t * p1 + 3 * u * t * t * p2 + t ** 3 * p3
+                                for p0, p1, p2, p3 in zip(start, c1, c2, end)))
         start = end
     return places
 
@@ -114,15 +115,17 @@ def _eased(widths):
 
 def _round_end(place, normal, half_width, direction):
     """Half an ellipse around an end of a ribbon; direction is 1 where the ribbon ends and -1 where it starts."""
-    tx, ty = normal[1] * direction, -normal[0] * direction
+    (x, y), (nx, ny) = place, normal
+    tx, ty = ny * direction, -nx * direction
     turns = [k * math.pi / 9 for k in range(1, 9)]
-    return [(place[0] + normal[0] * half_width * math.cos(a) * direction + tx * half_width * math.sin(a) * CAP_BULGE,
-             place[1] + normal[1] * half_width * math.cos(a) * direction + ty * half_width * math.sin(a) * CAP_BULGE) for a in turns]
+    return [(x + nx * half_width * math.cos(a) * direction + tx * half_width * math.sin(a) * CAP_BULGE,
+             y + ny * half_width * math.cos(a) * direction + ty * half_width * math.sin(a) * CAP_BULGE) for a in turns]
 
 
 def ribbon(pts, width, n=10, caps=''):
-    """Polygon of a band along the curve. The width is a function of t in 0..1 or a list of widths at even steps; caps names the
-    ends that are rounded: 's' the start, 'e' the end. The right-hand edge comes first, the left-hand one follows backwards."""
+    """Polygon of a band along the curve. The width is a function of t in 0..1 or a list of widths at even steps; caps
+    names the ends that are rounded: 's' the start, 'e' the end. The right-hand edge comes first, the left-hand one
+    follows backwards."""
     places = sample(pts, n=n)
     across = normals(places)
     last = len(places) - 1
@@ -147,7 +150,8 @@ def rect(x, y, w, h, r=0):
     if not r:
         return f'M{x} {y}h{w}v{h}h{-w}Z'
     across, down = w - 2 * r, h - 2 * r
-    return f'M{x + r} {y}h{across}q{r} 0 {r} {r}v{down}q0 {r} {-r} {r}h{-across}q{-r} 0 {-r} {-r}v{-down}q0 {-r} {r} {-r}Z'
+    return (f'M{x + r} {y}h{across}q{r} 0 {r} {r}v{down}q0 {r} {-r} {r}'
+            f'h{-across}q{-r} 0 {-r} {-r}v{-down}q0 {-r} {r} {-r}Z')
 
 
 def pol(cx, cy, r, deg):
@@ -258,8 +262,8 @@ class Scene:
         self.add('stroke', _outline(shape, False), w=w)
 
     def line(self, pts, w=4, prof='both', kind='line', n=8):
-        """Brush line that swells to the width w; prof tells which ends taper (both, end, start; flat: none), n how finely the
-        curve is followed."""
+        """Brush line that swells to the width w; prof tells which ends taper (both, end, start; flat: none), n how
+        finely the curve is followed."""
         profile = PROFILES[prof]
         self.add(kind, poly(ribbon(pts, lambda t: w * profile(t), n)))
 
@@ -272,8 +276,8 @@ class Scene:
         self.fill(poly(ribbon(pts, widths, caps=caps)), pig, w)
 
     def comb(self, pts, ang, length, n=14, w=5, jitter=.25):
-        """Wedges of hatching: n strokes that start on the curve and run out in one direction. The length may be a function of
-        the place 0..1 on the curve; jitter is the share by which it varies."""
+        """Wedges of hatching: n strokes that start on the curve and run out in one direction. The length may be a
+        function of the place 0..1 on the curve; jitter is the share by which it varies."""
         places = sample(pts, n=20)
         a = math.radians(ang)
         for i in range(n):
@@ -292,7 +296,8 @@ class Scene:
         offset = -reach
         while offset < reach:
             v = offset + self.random.uniform(-UNEVENNESS, UNEVENNESS) * step
-            places = [(cx + u * math.cos(a) - v * math.sin(a), cy + u * math.sin(a) + v * math.cos(a)) for u in (-reach, 0, reach)]
+            places = [(cx + u * math.cos(a) - v * math.sin(a), cy + u * math.sin(a) + v * math.cos(a))
+                      for u in (-reach, 0, reach)]
             self.add('hatch', poly(ribbon(places, lambda t: w, 3)))
             offset += step
 
@@ -303,8 +308,8 @@ class Scene:
 
 # ---------- writing ----------
 class Layer:
-    """A drawing as SVG, one of the plates that a renderer needs. A pen is a function that gives for a mark the attributes it
-    is drawn with, a list of such for several coats, or None for nothing."""
+    """A drawing as SVG, one of the plates that a renderer needs. A pen is a function that gives for a mark the
+    attributes it is drawn with, a list of such for several coats, or None for nothing."""
 
     def __init__(self, width=CARD[0], height=CARD[1], ground=None):
         self.width, self.height, self.ground = width, height, ground
@@ -319,8 +324,8 @@ class Layer:
         return self._clip_names[transform, d]
 
     def _clipped(self, element, clip):
-        """The element in one group for each clip that it lies in. A clip path on a clip path would say the same, but the
-        renderer heeds only the inner one of these."""
+        """The element in one group for each clip that it lies in. A clip path on a clip path would say the same, but
+        the renderer heeds only the inner one of these."""
         while clip:
             element = f'<g clip-path="url(#{self._define(clip.transform, clip.d)})">{element}</g>'
             clip = clip.outer
@@ -332,8 +337,8 @@ class Layer:
         if mark.kind != 'text':
             return f'<path d="{mark.d}"{place} {attributes}/>'
         text, x, y, size, font, spacing = mark.lettering
-        return (f'<text x="{x}" y="{y}" font-family="{font}" font-size="{size}" text-anchor="middle" letter-spacing="{spacing}"'
-                f'{place} {attributes}>{text}</text>')
+        return (f'<text x="{x}" y="{y}" font-family="{font}" font-size="{size}" text-anchor="middle" '
+                f'letter-spacing="{spacing}"{place} {attributes}>{text}</text>')
 
     def put(self, marks, pen, inside=None):
         """Draws a display list, cut to the outline `inside`."""

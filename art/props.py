@@ -18,7 +18,8 @@ def tuft(S, x, y, k=1, n=5, pig='green'):
 
 
 def ground(S, y, pts=None, pig='earth'):
-    """Earth that fills the lower part of the card, below the curve through pts or, without these, gently rolling about y."""
+    """Earth that fills the lower part of the card, below the curve through pts or, without these, gently rolling about
+    y."""
     pts = pts or [(-10, y + 4), (90, y - 6), (200, y + 3), (330, y - 5), (450, y + 4), (610, y - 4)]
     S.fill(pts[:-1] + [pts[-1] + ('c',), (610, y + 260, 'c'), (-10, y + 260, 'c')], pig, 4)
 

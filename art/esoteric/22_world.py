@@ -33,7 +33,7 @@ def globe(S, x, y, r):
     with S.clip(circ(x, y, r)), S.at(x, y, 1, -24):
         S.fill([(-r - 8, -20, 'c'), (0, 8), (r + 8, -20, 'c'), (r + 8, 16, 'c'), (0, 44), (-r - 8, 16, 'c')], 'leaf', 3)
         with chased(S):
-            for i, name in enumerate(list(ZOD)[:7]):
+            for i, name in enumerate(list(SIGNS)[:7]):
                 f = (i - 3) / 3
                 with S.at(f * r * .84, 24 - 24 * f * f, 1, -22 * f):
                     glyph(S, name, 0, 0, .17, 17, kind='line')

@@ -3,6 +3,7 @@
 import math
 
 from regal import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = "L'IMPERATRICE", 'III'
 FIELD, PATTERN = 'lapis', 'damask'
 

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Emperor: bearded, turned to the left before his throne, legs crossed, the sceptre held out, the eagle shield at the seat."""
 from regal import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = "L'EMPEREVR", 'IIII'
 FIELD, PATTERN = 'emerald', 'damask'
 

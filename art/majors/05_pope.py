@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Pope: triple tiara and staff with the triple cross, blessing between two columns; two tonsured acolytes kneel before him."""
 from regal import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = 'LE PAPE', 'V'
 FIELD, PATTERN = 'plum', 'damask'
 

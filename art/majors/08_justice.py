@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Justice: enthroned, full face under a crown-like hat, the sword upright in her right hand and the level scales in her left."""
 from regal import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = 'LA IVSTICE', 'VIII'
 FIELD, PATTERN = 'crimson', 'damask'
 

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Hermit: an old man in a hooded cloak who walks by night, the lantern raised before him, leaning on his staff."""
 from regal import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = "L'HERMITE", 'VIIII'
 FIELD, PATTERN = 'plum', 'stars'
 

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Wheel of Fortune: a wheel with a crank between two posts; one beast falls, one climbs, a crowned sphinx with a sword rests on top."""
 from regal import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = 'LA ROVE DE FORTVNE', 'X'
 FIELD, PATTERN = 'night', 'stars'
 HUB, RIM = (300, 566), 158

@@ -2,6 +2,7 @@
 """Strength: a woman under a hat like a lying eight opens a lion's jaws with her bare hands and without effort; the calm of her face
 and the hat's endless brim matter, the beast sits against her skirt."""
 from beasts import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = 'LA FORCE', 'XI'
 FIELD, PATTERN = 'lapis', 'damask'
 

@@ -2,6 +2,7 @@
 """The Hanged Man: hung by one foot from a beam between two lopped trunks, the free leg crossed behind, hands behind the back; his face
 is at ease. The body is drawn standing and then turned, so its shaded side lies on the left here."""
 from beasts import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = 'LE PENDV', 'XII'
 FIELD, PATTERN = 'plum', 'damask'
 DUSK = (-.7, -.7)       # direction away from the light once the body hangs

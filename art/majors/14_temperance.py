@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Temperance: a winged woman pours water from one vessel into another; a flower blooms on her brow and not a drop is lost."""
 from beasts import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = 'TEMPERANCE', 'XIIII'
 FIELD, PATTERN = 'lapis', 'stars'
 

@@ -2,6 +2,7 @@
 """The Devil: antlered and bat-winged on a drum, one hand raised, a torch in the other; a cord through the drum's ring holds two horned
 imps by the neck, loosely enough to slip."""
 from beasts import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = 'LE DIABLE', 'XV'
 FIELD, PATTERN = 'crimson', 'damask'
 

@@ -2,6 +2,7 @@
 """The Star: under one great star and seven small ones a naked woman, clothed in her own hair, kneels and empties two jugs, one into the
 pool, one on the land; a bird sits on a tree."""
 from beasts import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = "L'ESTOILE", 'XVII'
 FIELD, PATTERN = 'lapis', 'stars'
 

@@ -4,6 +4,7 @@ crayfish climbs in the pool."""
 import math
 
 from beasts import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = 'LA LVNE', 'XVIII'
 FIELD, PATTERN = 'night', 'stars'
 

@@ -4,6 +4,7 @@ seen from behind."""
 import math
 
 from beasts import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = 'LE IVGEMENT', 'XX'
 FIELD, PATTERN = 'crimson', 'stars'
 

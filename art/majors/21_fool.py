@@ -2,6 +2,7 @@
 """The Fool: a wanderer in belled motley strides to the right, bundle on the shoulder, staff in hand, looking up at nothing; a dog
 leaps at his torn hose and he does not heed it."""
 from beasts import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = 'LE MAT', 'XXI'
 FIELD, PATTERN = 'emerald', 'stars'
 

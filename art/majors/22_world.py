@@ -4,6 +4,7 @@ the Hanged Man's. The upper beings sit low and inward, clear of an arched frame.
 import math
 
 from beasts import *      # the vocabulary of scenes, see drawing.py
+
 TITLE, NUM = 'LE MONDE', 'XXII'
 FIELD, PATTERN = 'plum', 'stars'
 CX, CY, RX, RY = 300, 524, 152, 330

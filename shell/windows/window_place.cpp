@@ -60,8 +60,8 @@ int pixels(int twips) {
 
 QRect onScreen(QRect window) {
     const QRect area = nearestWorkArea(window.topLeft());
-    const int right = std::max(area.left(), area.right() - window.width() + 1);
-    const int bottom = std::max(area.top(), area.bottom() - window.height() + 1);
+    const int right = std::max(area.left(), area.right() - std::max(window.width(), graspableWidth) + 1);
+    const int bottom = std::max(area.top(), area.bottom() - std::max(window.height(), graspableHeight) + 1);
     window.moveTo(std::clamp(window.left(), area.left(), right), std::clamp(window.top(), area.top(), bottom));
     return window;
 }
