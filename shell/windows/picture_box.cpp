@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <utility>
+
 namespace velmoriax::shell {
 
 QImage loadPicture(const platform::Files& files, const std::string& path) {
@@ -112,12 +114,15 @@ void PictureBox::mouseMoveEvent(QMouseEvent* event) {
 
 void PictureBox::keyPressEvent(QKeyEvent* event) {
     if (!clickable_ || !isClickKey(*event)) return QWidget::keyPressEvent(event);
-    if (!event->isAutoRepeat()) Q_EMIT pressed();
+    if (event->isAutoRepeat()) return;
+    keyHeld_ = true;
+    Q_EMIT pressed();
 }
 
 void PictureBox::keyReleaseEvent(QKeyEvent* event) {
     if (!clickable_ || !isClickKey(*event)) return QWidget::keyReleaseEvent(event);
-    if (event->isAutoRepeat()) return;
+    // A key that was pressed in another window, in the menu that led here, say, is no click when it comes up.
+    if (event->isAutoRepeat() || !std::exchange(keyHeld_, false)) return;
     Q_EMIT released();
     Q_EMIT clicked();
 }

@@ -64,6 +64,7 @@ private:
     double cornerShare_ = 0;
     bool clickable_ = false;
     bool pressedInside_ = false;
+    bool keyHeld_ = false;
 };
 
 } // namespace velmoriax::shell

@@ -11,6 +11,14 @@ rm -rf "$program_folder/logs"
 export HOME="$program_folder/home" XDG_CONFIG_HOME="$program_folder/home/.config"
 unset XDG_DATA_HOME
 mkdir -p "$HOME"
+# options LINES: the options file of a test. Alerts are off and a birth date is set, so that no notification comes up
+# over what a test looks at, unless it asks for one.
+options() {
+  printf '[opciones]\r\nNivel Alertas=None\r\n%b' "$1" > "$program_folder/opciones.ini"
+}
+options ''
+printf '15,3,1980\r\n' > "$program_folder/bio.dat"
+
 program=''
 panel='' # of a test that keeps its own
 
@@ -99,4 +107,9 @@ click_icon() { # BUTTON
   xdotool mousemove $(icon_place) click "$1"
 }
 
-options() { printf '[opciones]\r\n%b' "$1" > "$program_folder/opciones.ini"; }
+# answer_box TITLE: closes a box by its default button.
+answer_box() {
+  xdotool windowactivate --sync "$(window_id "$1")" 2> /dev/null || xdotool windowfocus "$(window_id "$1")"
+  sleep 0.2
+  xdotool key --clearmodifiers Return
+}

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/windows/picture_box.h"
 #include "shell/windows/window_place.h"
 #include "support/window_fixture.h"
 
@@ -113,6 +114,18 @@ TEST_F(ModuleWindowTest, APlaceOnNoScreenComesBackOntoTheNearest) {
         moveToPlace(window, lost);
         EXPECT_TRUE(area.contains(window.pos())) << lost.left << ", " << lost.top;
     }
+}
+
+TEST(PictureBox, AKeyThatCameFromElsewhereIsNoClick) {
+    test::application();
+    PictureBox box;
+    box.setClickable(true);
+    int clicks = 0;
+    QObject::connect(&box, &PictureBox::clicked, [&] { ++clicks; });
+    QTest::keyRelease(&box, Qt::Key_Return);
+    EXPECT_EQ(clicks, 0);
+    QTest::keyClick(&box, Qt::Key_Space);
+    EXPECT_EQ(clicks, 1);
 }
 
 } // namespace
