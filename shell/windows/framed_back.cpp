@@ -14,6 +14,7 @@ namespace velmoriax::shell {
 namespace {
 
 constexpr int cornerSize = 22; ///< the ornament in each corner of the frame
+constexpr int rightKept = 100; ///< the moon or the orbits at the right, which are not to grow broad
 
 } // namespace
 
@@ -31,10 +32,8 @@ void FramedBack::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (size() == backSize()) return painter.drawPixmap(rect(), back_);
-    const int inPicture = cornerSize * pixelsPerPoint;
-    const QMargins corner(cornerSize, cornerSize, cornerSize, cornerSize);
-    const QMargins pictureCorner(inPicture, inPicture, inPicture, inPicture);
-    qDrawBorderPixmap(&painter, rect(), corner, back_, back_.rect(), pictureCorner);
+    const QMargins kept(cornerSize, cornerSize, rightKept, cornerSize);
+    qDrawBorderPixmap(&painter, rect(), kept, back_, back_.rect(), kept * pixelsPerPoint);
 }
 
 } // namespace velmoriax::shell

@@ -140,7 +140,8 @@ void ModuleWindow::onTrayLost() {
 }
 
 void ModuleWindow::tellMissingTray() {
-    if (std::exchange(record().shell.trayMissingTold, true)) return;
+    // At login the panel may still be on its way.
+    if (!desktop().tray.decided() || std::exchange(record().shell.trayMissingTold, true)) return;
     QTimer::singleShot(0, this, [this] {
         desktop().boxes.show(
             platform::BoxIcon::information,

@@ -152,23 +152,40 @@ bool Notif::slide(QWidget& Ventana, int step, const std::function<int()>& goal) 
     return true;
 }
 
-/// A long text takes smaller letters before it has to be scrolled.
-void Notif::fitText() {
-    constexpr double smallestShare = 0.75;
-    constexpr double step = 0.5;
-    // Nothing has been shown yet that would have laid the parts out.
-    layout()->activate();
-    ui_->Picture1->layout()->activate();
+bool Notif::textFits(const QFont& letters) const {
     const QSize room = ui_->scroll->size().shrunkBy(ui_->mTexto->contentsMargins());
+    const QRect unbounded(0, 0, room.width(), QWIDGETSIZE_MAX);
+    const QFontMetrics metrics(letters, this);
+    return metrics.boundingRect(unbounded, Qt::TextWordWrap, ui_->mTexto->text()).height() <= room.height();
+}
+
+/// The height is given by the length of the text. A long text takes smaller letters, with a user's large letters the
+/// window grows wider, and only then the text has to be scrolled.
+void Notif::fitText() {
+    constexpr double smallestShare = 0.6;
+    constexpr double legible = 8; // points
+    constexpr double fontStep = 0.5;
+    constexpr int widthStep = 20;
+    const int widest = width() * 7 / 4;
     QFont letters = arial(font());
-    const double smallest = letters.pointSizeF() * smallestShare;
-    const auto tooTall = [&] {
-        const QRect unbounded(0, 0, room.width(), QWIDGETSIZE_MAX);
-        const QFontMetrics metrics(letters, this);
-        return metrics.boundingRect(unbounded, Qt::TextWordWrap, ui_->mTexto->text()).height() > room.height();
-    };
-    while (tooTall() && letters.pointSizeF() - step >= smallest) letters.setPointSizeF(letters.pointSizeF() - step);
+    QFont smallest = letters;
+    smallest.setPointSizeF(std::min(letters.pointSizeF(), std::max(legible, letters.pointSizeF() * smallestShare)));
+    layOut();
+    while (!textFits(smallest) && width() < widest) {
+        setFixedWidth(width() + widthStep);
+        layOut();
+    }
+    while (!textFits(letters) && letters.pointSizeF() > smallest.pointSizeF())
+        letters.setPointSizeF(std::max(letters.pointSizeF() - fontStep, smallest.pointSizeF()));
     ui_->mTexto->setFont(letters);
+}
+
+/// A window that has not been shown yet does not lay itself out.
+void Notif::layOut() {
+    for (QLayout* part : {layout(), ui_->Picture1->layout()}) {
+        part->invalidate();
+        part->activate();
+    }
 }
 
 void Notif::onCloseMark() {

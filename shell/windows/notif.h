@@ -40,6 +40,8 @@ private:
 
     void takeSize();
     void fitText();
+    void layOut();
+    bool textFits(const QFont& letters) const;
     void slideUp(QWidget& Ventana);
     void slideDown(QWidget& Ventana);
     bool slide(QWidget& Ventana, int step, const std::function<int()>& goal);
