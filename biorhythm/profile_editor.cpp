@@ -30,8 +30,11 @@ EditedProfile editedProfile(std::string_view line) {
 
 void submitProfile(platform::Files& files, const std::optional<std::string>& copyPath, std::string_view name,
                    base::CivilDate date, base::CivilTime time) {
-    if (copyPath) replaceProfiles(files, *copyPath);
-    appendProfile(files, name, date, std::to_string(time.hour) + ":" + std::to_string(time.minute));
+    const std::string timeText = std::to_string(time.hour) + ":" + std::to_string(time.minute);
+    // The record joins the copy before that takes the list's place: at no moment does it stand in neither.
+    const bool replaced =
+        copyPath && appendToCopy(files, *copyPath, name, date, timeText) && replaceProfiles(files, *copyPath);
+    if (!replaced) appendProfile(files, name, date, timeText);
 }
 
 } // namespace velmoriax::biorhythm

@@ -158,12 +158,17 @@ std::string profileLine(std::string_view name, base::CivilDate birth, std::strin
 }
 
 bool appendProfile(platform::Files& files, std::string_view name, base::CivilDate birth, std::string_view timeText) {
-    const std::string path = listPath(files);
-    const std::string before = files.read(path).bytes;
-    const bool endsInsideLine = !before.empty() && lineEnd.find(before.back()) == std::string_view::npos;
-    std::string addition(endsInsideLine ? lineEnd : std::string_view{});
-    addition += base::toWestern(profileLine(name, birth, timeText));
-    return files.append(path, addition.append(lineEnd));
+    return appendToCopy(files, listPath(files), name, birth, timeText);
+}
+
+bool appendToCopy(platform::Files& files, const std::string& copyPath, std::string_view name, base::CivilDate birth,
+                  std::string_view timeText) {
+    auto [status, bytes] = files.read(copyPath);
+    if (status == Status::unreadable) return false;
+    const bool endsInsideLine = !bytes.empty() && lineEnd.find(bytes.back()) == std::string_view::npos;
+    if (endsInsideLine) bytes += lineEnd;
+    bytes.append(base::toWestern(profileLine(name, birth, timeText))).append(lineEnd);
+    return files.replace(copyPath, bytes);
 }
 
 std::optional<std::string> saveProfile(platform::Files& files, platform::MessageBoxes& boxes,
@@ -187,8 +192,9 @@ std::optional<std::string> copyWithoutProfile(platform::Files& files, platform::
     if (list.status != Status::read) return std::nullopt;
     auto path = temporaryFile(files, boxes, messages);
     if (!path) return std::nullopt;
-    const bool copied = files.replace(*path, withoutLinesHolding(list.bytes, base::toWestern(selectedLine)));
-    return copied ? path : std::nullopt;
+    if (files.replace(*path, withoutLinesHolding(list.bytes, base::toWestern(selectedLine)))) return path;
+    files.remove(*path);
+    return std::nullopt;
 }
 
 bool replaceProfiles(platform::Files& files, const std::string& temporaryPath) {

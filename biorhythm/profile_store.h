@@ -58,6 +58,10 @@ std::string profileLine(std::string_view name, base::CivilDate birth, std::strin
 /// Appends a record on a line of its own; false when it could not be written.
 bool appendProfile(platform::Files& files, std::string_view name, base::CivilDate birth, std::string_view timeText);
 
+/// The same on a copy of the list.
+bool appendToCopy(platform::Files& files, const std::string& copyPath, std::string_view name, base::CivilDate birth,
+                  std::string_view timeText);
+
 /// "Save profile": asks for a name, refuses a record that stands already in full, appends it and stores the name as the
 /// main profile's. Gives the name as it reads back from the file; nothing when nothing was saved. Throws a path or file
 /// access error when the file cannot be written.

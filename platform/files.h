@@ -33,7 +33,7 @@ public:
     /// Puts a whole file in the place of the old one. On failure (false) the old content stands.
     virtual bool replace(const std::string& path, const std::string& bytes) = 0;
 
-    /// Adds to the end of a file, creating the file but not its directory. False on failure.
+    /// Adds to the end of a file, creating the file but not its directory. On failure (false) the old content stands.
     virtual bool append(const std::string& path, const std::string& bytes) = 0;
 
     virtual bool remove(const std::string& path) = 0;

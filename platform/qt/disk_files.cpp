@@ -4,11 +4,13 @@
 #include "platform/program_paths.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <fcntl.h>
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 namespace velmoriax::desktop {
 
@@ -17,6 +19,11 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr ::mode_t ownerOnly = 0600;
+
+/// The name of a file while it is being written, beside the one that it will replace.
+constexpr std::string_view freshPrefix = ".velmoriax-";
+constexpr std::string_view freshMark = "XXXXXX"; ///< the system puts letters and digits in its place
+constexpr auto oldEnoughToSweep = std::chrono::minutes(1);
 
 /// An open file descriptor, closed at the end of its scope.
 class Descriptor {
@@ -75,7 +82,7 @@ fs::path behindLinks(const fs::path& path) {
 
 /// Writes bytes under a new name in a folder and gives the name; empty on failure, with nothing left behind.
 fs::path writtenBeside(const fs::path& target, std::string_view bytes) {
-    std::string name = (target.parent_path() / ".velmoriax-XXXXXX").string();
+    std::string name = (target.parent_path() / freshPrefix).string().append(freshMark);
     const Descriptor file(::mkostemp(name.data(), O_CLOEXEC));
     if (!file) return {};
     struct ::stat old {};
@@ -96,6 +103,25 @@ bool replaceFile(const fs::path& path, std::string_view bytes) {
     }
     flushFolder(target.parent_path());
     return true;
+}
+
+/// What a process leaves that is killed while it writes.
+bool isLeftover(const fs::directory_entry& entry) {
+    std::error_code error;
+    const std::string name = entry.path().filename().string();
+    const bool named = name.starts_with(freshPrefix) && name.size() == freshPrefix.size() + freshMark.size();
+    if (!named || entry.is_symlink(error) || !entry.is_regular_file(error)) return false;
+    const auto written = entry.last_write_time(error);
+    return !error && fs::file_time_type::clock::now() - written > oldEnoughToSweep;
+}
+
+/// Another instance may be writing at this moment, so only what is older goes.
+void sweepLeftovers(const fs::path& folder) {
+    std::error_code error;
+    std::vector<fs::path> leftovers;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
+        if (isLeftover(*entry)) leftovers.push_back(entry->path());
+    for (const fs::path& leftover : leftovers) ::unlink(leftover.c_str());
 }
 
 platform::Files::Content readFile(const fs::path& path) {
@@ -137,6 +163,7 @@ void DiskFiles::createFolders() {
     if (fs::create_directory(folders_.user, error))
         fs::permissions(folders_.user, fs::perms::owner_all, fs::perm_options::replace, error);
     fs::create_directory(folders_.user / "logs", error);
+    for (const fs::path& folder : {folders_.user, folders_.user / "logs"}) sweepLeftovers(folder);
 }
 
 std::string DiskFiles::applicationDirectory() const {
@@ -170,7 +197,12 @@ bool DiskFiles::replace(const std::string& path, const std::string& bytes) {
 bool DiskFiles::append(const std::string& path, const std::string& bytes) {
     const Descriptor file(
         ::open(native(path).c_str(), O_WRONLY | O_APPEND | O_CREAT | O_NONBLOCK | O_CLOEXEC, ownerOnly));
-    return file && writeAll(file.number(), bytes);
+    struct ::stat before {};
+    if (!file || ::fstat(file.number(), &before) != 0) return false;
+    if (writeAll(file.number(), bytes)) return true;
+    // A full disk takes a part: without it the file is what it was.
+    [[maybe_unused]] const int cut = ::ftruncate(file.number(), before.st_size);
+    return false;
 }
 
 bool DiskFiles::remove(const std::string& path) {
@@ -179,7 +211,8 @@ bool DiskFiles::remove(const std::string& path) {
 
 bool DiskFiles::rename(const std::string& from, const std::string& to) {
     const fs::path source = native(from);
-    const fs::path target = native(to);
+    const fs::path target = behindLinks(native(to));
+    if (isWriteProtected(target)) return false;
     if (::rename(source.c_str(), target.c_str()) == 0) {
         flushFolder(target.parent_path());
         return true;

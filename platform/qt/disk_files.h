@@ -24,7 +24,8 @@ public:
 
     const ProgramFolders& folders() const { return folders_; }
 
-    /// Creates the application directory (for the user alone) and the folder of the logs.
+    /// Creates the application directory (for the user alone) and the folder of the logs, and sweeps both of the
+    /// half-written files, at least a minute old, that a killed or crashed process has left beside the real ones.
     void createFolders();
 
     /// The path under which a program path is read: the user's file, or the supplied one when the user has none.

@@ -79,6 +79,28 @@ TEST_F(DiskFilesTest, ReplacingLeavesNothingBesideAndKeepsLinks) {
         EXPECT_FALSE(entry.path().filename().string().starts_with(".velmoriax-")) << entry.path();
 }
 
+TEST_F(DiskFilesTest, RenamingOverALinkKeepsIt) {
+    write(root_ / "elsewhere", "old");
+    write(root_ / "copy", "new");
+    fs::create_symlink(root_ / "elsewhere", files_.folders().user / "perfiles.txt");
+    ASSERT_TRUE(files_.rename(root_ / "copy", at("\\perfiles.txt")));
+    EXPECT_EQ(bytesOf(root_ / "elsewhere"), "new");
+    EXPECT_TRUE(fs::is_symlink(files_.folders().user / "perfiles.txt"));
+}
+
+TEST_F(DiskFilesTest, TheSweepTakesNoFileOfTheUsers) {
+    const fs::path& folder = files_.folders().user;
+    const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(48);
+    fs::create_directory(folder / ".velmoriax-folder");
+    for (const char* name : {".velmoriax-a1B2c3", ".velmoriax-notes", ".velmoriax.lock", "velmoriax-a1B2c3"}) {
+        write(folder / name, "");
+        fs::last_write_time(folder / name, longAgo);
+    }
+    files_.createFolders();
+    EXPECT_FALSE(fs::exists(folder / ".velmoriax-a1B2c3"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 5) << "the logs' folder and what is not ours";
+}
+
 TEST_F(DiskFilesTest, AppendCreatesTheFileButNotItsFolder) {
     EXPECT_TRUE(files_.append(at("\\logs\\resNames.log"), "a"));
     EXPECT_TRUE(files_.append(at("\\logs\\resNames.log"), "b"));

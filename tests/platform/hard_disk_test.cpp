@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/run_time_error.h"
+#include "biorhythm/profile_files.h"
+#include "biorhythm/profile_store.h"
+#include "platform/qt/disk_files.h"
+#include "shell/options_store.h"
+#include "support/fakes.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <random>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace velmoriax::desktop {
+namespace {
+
+namespace fs = std::filesystem;
+using Status = platform::Files::Status;
+
+const std::vector<std::string> kept{"\\opciones.ini", "\\perfiles.txt", "\\bio.dat", "\\horabio.dat", "\\biofinal.dat"};
+
+class HardDisk : public testing::Test {
+protected:
+    HardDisk() {
+        files_.createFolders();
+        options_.setOption(shell::key::tirada, "real");
+        biorhythm::createMissingProfileFiles(files_);
+        biorhythm::appendProfile(files_, "Ann", {1980, 3, 15}, "7:45");
+        biorhythm::appendProfile(files_, "Bea", {1990, 5, 1}, "8:00");
+    }
+    ~HardDisk() override { fs::remove_all(root_); }
+
+    static fs::path freshFolder() {
+        std::string name = (fs::temp_directory_path() / "velmoriax-test-XXXXXX").string();
+        return ::mkdtemp(name.data());
+    }
+
+    std::string at(const std::string& literal) const { return files_.applicationDirectory() + literal; }
+
+    std::vector<std::string> contents() const {
+        std::vector<std::string> all;
+        for (const std::string& literal : kept) all.push_back(files_.read(at(literal)).bytes);
+        return all;
+    }
+
+    std::size_t entries() const {
+        return static_cast<std::size_t>(std::distance(fs::recursive_directory_iterator(root_), {}));
+    }
+
+    /// Every kind of write that the program makes; true when all that can report a failure did.
+    bool everyWriteFails() {
+        const std::string longText(300'000, 'x');
+        options_.setOption(shell::key::songAmbient, longText);
+        biorhythm::removeProfileLines(files_, boxes_, "Ann,March/15/1980,7:45", biorhythm::deleteMessages);
+        bool reported = !biorhythm::appendProfile(files_, longText, {1980, 3, 15}, "7:45");
+        reported = !files_.append(at("\\perfiles.txt"), longText) && reported;
+        try {
+            biorhythm::saveBioState(files_, state_, {{1999, 9, 9}, {9, 9, 0}}, {2099, 9, 9});
+            return false;
+        } catch (const base::RunTimeError& error) {
+            return reported && error.code() == base::RunTimeError::Code::pathFileAccess;
+        }
+    }
+
+    fs::path root_ = freshFolder();
+    DiskFiles files_{{root_ / "user", root_ / "share"}};
+    shell::OptionsStore options_{files_};
+    biorhythm::BioState state_;
+    test::FakeBoxes boxes_;
+};
+
+/// A limit on the size of files stops a write half way, as a full disk does, and needs no disk of its own.
+class SizeLimit {
+public:
+    explicit SizeLimit(::rlim_t bytes) {
+        before_ = std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &limit_);
+        const ::rlimit small{bytes, limit_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SizeLimit() {
+        ::setrlimit(RLIMIT_FSIZE, &limit_);
+        std::signal(SIGXFSZ, before_);
+    }
+    SizeLimit(const SizeLimit&) = delete;
+    SizeLimit& operator=(const SizeLimit&) = delete;
+
+private:
+    ::rlimit limit_{};
+    void (*before_)(int) = nullptr;
+};
+
+TEST_F(HardDisk, AFullDiskLeavesEveryFileAndNothingBeside) {
+    ::setenv("TMPDIR", root_.c_str(), 1);
+    const auto before = contents();
+    const std::size_t count = entries();
+    bool failed = false;
+    {
+        const SizeLimit limit(5);
+        failed = everyWriteFails();
+    }
+    ::unsetenv("TMPDIR");
+    EXPECT_TRUE(failed);
+    EXPECT_EQ(contents(), before);
+    EXPECT_EQ(entries(), count);
+}
+
+/// Runs as nobody where the test runs as root, for whom no folder is read-only; in a process of its own.
+template<typename Run>
+[[noreturn]] void asCommonUser(Run run) {
+    constexpr ::uid_t nobody = 65534;
+    const bool common = ::getuid() != 0 || (::setgid(nobody) == 0 && ::setuid(nobody) == 0);
+    std::_Exit(common && run() ? EXIT_SUCCESS : EXIT_FAILURE);
+}
+
+TEST_F(HardDisk, AReadOnlyFolderLeavesEveryFile) {
+    const auto readable = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+    const auto closed = readable | fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
+    for (const fs::path& folder : {root_, files_.folders().user, files_.folders().user / "logs"})
+        fs::permissions(folder, closed);
+    for (const auto& entry : fs::directory_iterator(files_.folders().user))
+        if (entry.is_regular_file()) fs::permissions(entry, readable);
+    const auto before = contents();
+    const auto run = [&] {
+        files_.createFolders();
+        return everyWriteFails() && contents() == before && options_.option(shell::key::tirada) == "real";
+    };
+    EXPECT_EXIT(asCommonUser(run), testing::ExitedWithCode(EXIT_SUCCESS), "");
+    EXPECT_EQ(contents(), before);
+    for (const fs::path& folder : {root_, files_.folders().user, files_.folders().user / "logs"})
+        fs::permissions(folder, fs::perms::owner_all);
+}
+
+TEST_F(HardDisk, AFolderUnderAFilesNameStaysAFolder) {
+    for (const std::string& literal : kept) {
+        files_.remove(at(literal));
+        fs::create_directory(files_.folders().user / literal.substr(1));
+    }
+    EXPECT_TRUE(everyWriteFails());
+    EXPECT_EQ(options_.option(shell::key::tirada), "");
+    EXPECT_TRUE(biorhythm::profileLines(files_).empty());
+    EXPECT_THROW(biorhythm::loadBirth(files_, state_), base::RunTimeError);
+    for (const std::string& literal : kept) EXPECT_EQ(files_.read(at(literal)).status, Status::unreadable) << literal;
+}
+
+TEST_F(HardDisk, FiftyMegabytesOfNoiseAreReadWrittenAndKept) {
+    std::string noise(50 << 20, '\0');
+    std::minstd_rand random(1);
+    for (char& byte : noise)
+        if (const auto number = random(); number % 4 != 0) byte = static_cast<char>(number >> 8);
+    files_.replace(at("\\opciones.ini"), noise);
+    files_.replace(at("\\perfiles.txt"), noise);
+    const auto start = std::chrono::steady_clock::now();
+    options_.readAtStart();
+    options_.readAtModuleLoad(true);
+    options_.setOption(shell::key::tirada, "real");
+    EXPECT_EQ(options_.option(shell::key::tirada), "real");
+    EXPECT_TRUE(biorhythm::appendProfile(files_, "Ann", {1980, 3, 15}, "7:45"));
+    EXPECT_TRUE(biorhythm::findProfile(files_, "Ann"));
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+    EXPECT_LT(taken.count(), 120) << "seconds: slow is allowed, hanging is not";
+    std::cout << "twelve reads and two writes of 50 MB: " << taken.count() << " s\n";
+    for (const char* literal : {"\\opciones.ini", "\\perfiles.txt"})
+        EXPECT_TRUE(files_.read(at(literal)).bytes.starts_with(noise)) << literal;
+}
+
+} // namespace
+} // namespace velmoriax::desktop
