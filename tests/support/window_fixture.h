@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/windows/module_window.h"
+#include "shell/windows/process.h"
+#include "shell/windows/window_registry.h"
+#include "support/fakes.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+/// The font library keeps its caches to the end of the process and has no one to free them.
+extern "C" [[gnu::weak]] const char* __lsan_default_suppressions() {
+    return "leak:libfontconfig\n";
+}
+
+/// Windows without a desktop: a whole process of fakes, on the platform that draws to nowhere.
+namespace velmoriax::test {
+
+inline QApplication& application() {
+    static int argc = 1;
+    static char name[] = "test";
+    static char* argv[] = {name, nullptr};
+    static const bool offscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QApplication* const instance = offscreen ? new QApplication(argc, argv) : nullptr;
+    return *instance;
+}
+
+/// The bytes of a small picture whose first pixel tells it from the others, and whose last one is black.
+inline std::string pictureBytes(QRgb firstPixel) {
+    QImage picture(6, 10, QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    picture.setPixel(0, 0, firstPixel);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    picture.save(&buffer, "PNG");
+    return bytes.toStdString();
+}
+
+class WindowFixture : public testing::Test {
+protected:
+    WindowFixture() { process.notification = &notification; }
+
+    /// Windows that were released die before the process that they belong to.
+    ~WindowFixture() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+    /// The module's window, loaded by the registry as the program does it.
+    template<typename Window>
+    Window& load(shell::Module module) {
+        windows.addModule(module, [](shell::Process& p) -> shell::ModuleWindow* { return new Window(p); });
+        return static_cast<Window&>(windows.touch(module, process));
+    }
+
+    /// A control by its object name.
+    template<typename Control>
+    static Control& control(const QWidget& window, const char* name) {
+        auto* found = window.findChild<Control*>(QString::fromUtf8(name));
+        if (!found) throw std::logic_error(std::string("no control ") + name);
+        return *found;
+    }
+
+    QApplication& qt = application();
+    FakeClock clock;
+    FakeZone zone;
+    FakeFiles files;
+    FakeSounds sounds;
+    FakeOpener opener;
+    FakeBoxes boxes;
+    FakeAutostart autostart;
+    FakeEvents events;
+    FakeRandom random;
+    FakeNotification notification;
+    desktop::DesktopTray tray{QIcon()};
+    shell::DesktopServices services{clock, zone, files, sounds, opener, boxes, autostart, events, random, tray};
+    shell::ProcessRecord record{files};
+    shell::WindowRegistry windows;
+    shell::Process process{record, services, windows};
+};
+
+} // namespace velmoriax::test
