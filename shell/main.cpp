@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "biorhythm/windows/form_mod.h"
+#include "biorhythm/windows/form_snap.h"
 #include "biorhythm/windows/frm_bio.h"
+#include "biorhythm/windows/frm_compa_tab.h"
+#include "biorhythm/windows/frm_profiles.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/mixer.h"
 #include "platform/qt/session.h"
@@ -47,6 +51,11 @@ shell::ModuleWindow* make(Process& process) {
     return new Window(process);
 }
 
+template<typename Window>
+shell::SecondaryWindow* makeBeside(Process& process) {
+    return new Window(process);
+}
+
 void addWindows(shell::WindowRegistry& windows) {
     windows.addModule(Module::cardOfDay, make<tarot::FrmCartaDia>);
     windows.addModule(Module::anotherDay, make<tarot::FrmCalendar>);
@@ -54,6 +63,10 @@ void addWindows(shell::WindowRegistry& windows) {
     windows.addModule(Module::names, make<tarot::FrmName>);
     windows.addModule(Module::numbers, make<tarot::frmVelmoriax>);
     windows.addModule(Module::biorhythms, make<biorhythm::frmBio>);
+    windows.addSecondary("FrmCompaTab", makeBeside<biorhythm::FrmCompaTab>);
+    windows.addSecondary("FrmProfiles", makeBeside<biorhythm::FrmProfiles>);
+    windows.addSecondary("FormMod", makeBeside<biorhythm::FormMod>);
+    windows.addSecondary("FormSnap", makeBeside<biorhythm::FormSnap>);
 }
 
 void refuseSecondInstance(platform::MessageBoxes& boxes) {
