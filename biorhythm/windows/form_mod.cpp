@@ -3,6 +3,7 @@
 
 #include "biorhythm/profile_editor.h"
 #include "biorhythm/profile_store.h"
+#include "biorhythm/windows/frm_bio.h"
 #include "biorhythm/windows/frm_profiles.h"
 #include "biorhythm/windows/qt_values.h"
 #include "shell/windows/window_registry.h"
@@ -28,6 +29,7 @@ FrmProfiles* FormMod::list() const {
 void FormMod::load() {
     const std::string line = list() ? list()->selectedRecord() : std::string();
     if (line.empty()) return;
+    if (const frmBio* view = frmBio::loadedIn(process())) view->placeOver(*this);
     tempPath_ = copyWithoutProfile(desktop().files, desktop().boxes, line, modifyMessages);
     showRecord(line);
 }

@@ -16,7 +16,6 @@
 #include "ui_frm_bio.h"
 
 #include <QKeyEvent>
-#include <QScrollBar>
 
 #include <algorithm>
 
@@ -72,7 +71,6 @@ frmBio::frmBio(shell::Process& process) :
     birthSteppers_ = std::make_unique<DateSteppers>(*ui_->vsbDayBirth, *ui_->vsbMonthBirth, *ui_->vsbYearBirth);
     readingSteppers_ = std::make_unique<DateSteppers>(*ui_->vsbDayBio, *ui_->vsbMonthBio, *ui_->vsbYearBio);
     dress();
-    widenLeftColumn();
     buildNavigation();
     connectSteppers();
     connectTimeOfBirth();
@@ -103,14 +101,6 @@ void frmBio::dress() {
     for (QLabel* label : {ui_->LabelGetTime, ui_->LabelLived, ui_->LabelRest, ui_->LabelAvg})
         shell::look::asQuiet(*label);
     openPicker(*ui_->DTPicker1);
-}
-
-/// The column scrolls when the font is large, but never sideways: it is as wide as its widest row.
-void frmBio::widenLeftColumn() {
-    showTimeControls(true);
-    const int barWidth = ui_->leftScroll->verticalScrollBar()->sizeHint().width();
-    ui_->leftScroll->setMinimumWidth(ui_->leftColumn->minimumSizeHint().width() + barWidth);
-    showTimeControls(false);
 }
 
 void frmBio::connectSteppers() {
@@ -258,6 +248,10 @@ void frmBio::fillProfiles(const std::vector<std::string>& names, std::optional<s
     ui_->ComboProfiles->setVisible(!names.empty());
 }
 
+void frmBio::placeOver(QWidget& window) const {
+    window.move(frameGeometry().center() - window.rect().center());
+}
+
 void frmBio::showSecondName(const QString& name) {
     ui_->TextSecondProf->setText(name);
     ui_->TextSecondProf->setCursorPosition(0);
@@ -269,10 +263,7 @@ void frmBio::hideSecondName() {
 }
 
 void frmBio::showTimeControls(bool visible) {
-    for (QWidget* control : std::initializer_list<QWidget*>{ui_->Label21, ui_->VScrollHora, ui_->Label22,
-                                                            ui_->VScrollMinuto, ui_->CommandOk})
-        control->setVisible(visible);
-    ui_->XPButtonHora->setVisible(!visible);
+    ui_->timeOfBirth->setCurrentWidget(visible ? ui_->setting : ui_->asking);
 }
 
 void frmBio::askTimeOfBirth() {

@@ -45,6 +45,9 @@ public:
     /// Fills the profile list anew after the file was edited. The person shown stays.
     void listProfilesAnew();
 
+    /// Puts a window that is not shown yet over the middle of this one.
+    void placeOver(QWidget& window) const;
+
     void showSecondName(const QString& name);
     void hideSecondName();
 
@@ -61,7 +64,6 @@ private:
     BioViewState& view() const { return record().bioView; }
 
     void dress();
-    void widenLeftColumn();
     void connectSteppers();
     void connectTimeOfBirth();
     void connectReading();
