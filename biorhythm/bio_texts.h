@@ -16,4 +16,9 @@ inline constexpr std::string_view sameProfile = "You should choose a different p
 inline constexpr std::string_view chooseRecordTitle = "ErrorInfo"; ///< without the hyphen of the other boxes
 inline constexpr std::string_view chooseRecord = "You must choose a record";
 
+inline constexpr std::string_view snapshotSaved =
+    "The picture has been saved in the application folder as mysnap.jpg"; ///< shown before it is
+inline constexpr std::string_view encoderErrorTitle = "Encoder Error";
+inline constexpr std::string_view noEncoder = "Konnte keinen passenden Encoder ermitteln."; ///< German on purpose
+
 } // namespace velmoriax::biorhythm::text

@@ -4,10 +4,10 @@
 namespace velmoriax::biorhythm {
 
 const std::array<CycleFacts, cycleCount> cycleTable{{
-    {23, "Physical: ", "Physical"},
-    {28, "Emotional: ", "Emotional"},
-    {33, "Intellectual: ", "Intellectual"},
-    {38, "Intuitive: ", "Intuition"},
+    {23, "Physical: ", "Physical", "Phy"},
+    {28, "Emotional: ", "Emotional", "Emo"},
+    {33, "Intellectual: ", "Intellectual", "Inte"},
+    {38, "Intuitive: ", "Intuition", "Intu"},
 }};
 
 } // namespace velmoriax::biorhythm

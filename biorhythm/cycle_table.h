@@ -19,9 +19,10 @@ inline constexpr std::size_t cycleCount = 4;
 using CycleValues = std::array<float, cycleCount>;
 
 struct CycleFacts {
-    int period;                ///< in days
-    std::string_view lineWord; ///< in the lines of the alert, with colon and blank
-    std::string_view name;     ///< in the view, the chart and the compatibility
+    int period;                 ///< in days
+    std::string_view lineWord;  ///< in the lines of the alert, with colon and blank
+    std::string_view name;      ///< in the view, the chart and the compatibility
+    std::string_view shortName; ///< under the bars and on the lines of the chart
 };
 extern const std::array<CycleFacts, cycleCount> cycleTable;
 

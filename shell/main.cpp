@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "biorhythm/windows/form_mod.h"
+#include "biorhythm/windows/form_snap.h"
 #include "biorhythm/windows/frm_bio.h"
+#include "biorhythm/windows/frm_compa_tab.h"
+#include "biorhythm/windows/frm_profiles.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/mixer.h"
 #include "platform/qt/panel_position.h"
@@ -71,6 +75,10 @@ void addWindows(shell::WindowRegistry& windows) {
     windows.addSecondary("FrmToolTip", makeBeside<shell::FrmToolTip>);
     windows.addSecondary("FrmOptions", makeBeside<shell::FrmOptions>);
     windows.addSecondary("frmAbout", makeBeside<shell::frmAbout>);
+    windows.addSecondary("FrmCompaTab", makeBeside<biorhythm::FrmCompaTab>);
+    windows.addSecondary("FrmProfiles", makeBeside<biorhythm::FrmProfiles>);
+    windows.addSecondary("FormMod", makeBeside<biorhythm::FormMod>);
+    windows.addSecondary("FormSnap", makeBeside<biorhythm::FormSnap>);
 }
 
 void refuseSecondInstance(platform::MessageBoxes& boxes) {

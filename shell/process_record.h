@@ -3,6 +3,8 @@
 
 #include "biorhythm/alert_engine.h"
 #include "biorhythm/bio_state.h"
+#include "biorhythm/bio_view.h"
+#include "biorhythm/second_profile.h"
 #include "shell/background_agent.h"
 #include "shell/options_store.h"
 #include "shell/shell_state.h"
@@ -24,6 +26,8 @@ struct ProcessRecord {
     sky::SkyState sky;
     biorhythm::BioState bio;
     biorhythm::AlertRecord alerts;
+    biorhythm::BioViewState bioView; ///< what the steppers of the Biorhythm view hold
+    biorhythm::SecondProfile second;
     AgentRecord agent;
     std::int16_t gaugeTicks = 0; ///< minutes since the average gauge was drawn anew, over all changes of module
     tarot::OracleState oracle;

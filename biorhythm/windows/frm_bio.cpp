@@ -1,18 +1,426 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "biorhythm/windows/frm_bio.h"
 
+#include "base/date_text.h"
+#include "biorhythm/bio_chart.h"
+#include "biorhythm/bio_texts.h"
+#include "biorhythm/profile_files.h"
+#include "biorhythm/profile_store.h"
+#include "biorhythm/stepper_dates.h"
+#include "biorhythm/windows/bio_colours.h"
+#include "biorhythm/windows/date_steppers.h"
+#include "biorhythm/windows/qt_values.h"
+#include "shell/windows/look.h"
+#include "shell/windows/secondary_window.h"
+#include "shell/windows/window_registry.h"
 #include "ui_frm_bio.h"
+
+#include <QKeyEvent>
+
+#include <algorithm>
+
+/// The pictures lie in a static library: its resource has to be asked for by name, outside any namespace.
+static void openPictures() {
+    Q_INIT_RESOURCE(bio_pictures);
+}
 
 namespace velmoriax::biorhythm {
 
+namespace {
+
+constexpr int halfMinute = 30000;  ///< ms
+constexpr int arrowInterval = 100; ///< ms between two steps while an arrow is held
+constexpr int timeCaptionHead = 6; ///< characters of "Time: "
+
+void setColour(QWidget& label, const QColor& colour) {
+    QPalette palette = label.palette();
+    if (palette.color(QPalette::WindowText) == colour) return;
+    palette.setColor(QPalette::WindowText, colour);
+    label.setPalette(palette);
+}
+
+/// A notification that stands slides out and is gone before something new is told.
+void closeNotification(shell::Process& process) {
+    if (!process.windows.loaded("Notif")) return;
+    process.desktop.events.letRun();
+    process.windows.unload("Notif");
+    process.record.shell.notifOpen = false;
+}
+
+/// The labels of one cycle.
+struct CycleRow {
+    QLabel* name;
+    QLabel* value;
+    QLabel* up;
+    QLabel* down;
+};
+
+std::array<CycleRow, cycleCount> cycleRows(const Ui::frmBio& ui) {
+    return {{{ui.NameFis, ui.LabelFis, ui.Fisascmini, ui.Fisdescmini},
+             {ui.NameEmo, ui.LabelEmo, ui.Emoascmini, ui.Emodescmini},
+             {ui.NameInte, ui.LabelInte, ui.Inteascmini, ui.Intedescmini},
+             {ui.NameIntu, ui.LabelInt, ui.Intuascmini, ui.Intudescmini}}};
+}
+
+} // namespace
+
 frmBio::frmBio(shell::Process& process) :
     ModuleWindow(process, shell::Module::biorhythms), ui_(std::make_unique<Ui::frmBio>()) {
+    openPictures();
     ui_->setupUi(this);
+    birthSteppers_ = std::make_unique<DateSteppers>(*ui_->vsbDayBirth, *ui_->vsbMonthBirth, *ui_->vsbYearBirth);
+    readingSteppers_ = std::make_unique<DateSteppers>(*ui_->vsbDayBio, *ui_->vsbMonthBio, *ui_->vsbYearBio);
+    dress();
     buildNavigation();
+    connectSteppers();
+    connectTimeOfBirth();
+    connectReading();
+    connectProfiles();
 }
 
 frmBio::~frmBio() = default;
 
-void frmBio::ownLoad() {}
+frmBio* frmBio::loadedIn(const shell::Process& process) {
+    for (shell::ModuleWindow* window : process.windows.loadedModules())
+        if (auto* view = qobject_cast<frmBio*>(window)) return view;
+    return nullptr;
+}
+
+void frmBio::dress() {
+    const auto rows = cycleRows(*ui_);
+    for (std::size_t i = 0; i < cycleCount; ++i) {
+        setColour(*rows[i].name, colourOf(barTable[i].colour));
+        rows[i].up->setPixmap(QPixmap(QStringLiteral(":/bio/trend_up.png")));
+        rows[i].down->setPixmap(QPixmap(QStringLiteral(":/bio/trend_down.png")));
+        rows[i].up->hide();
+        rows[i].down->hide();
+    }
+    ui_->CmdArrowLeft->setIcon(QIcon(QStringLiteral(":/bio/arrow_left.png")));
+    ui_->CmdArrowRight->setIcon(QIcon(QStringLiteral(":/bio/arrow_right.png")));
+    ui_->CmdAlert->setIcon(QIcon(QStringLiteral(":/bio/alert.png")));
+    for (QLabel* label : {ui_->LabelGetTime, ui_->LabelLived, ui_->LabelRest, ui_->LabelAvg})
+        shell::look::asQuiet(*label);
+    openPicker(*ui_->DTPicker1);
+}
+
+void frmBio::connectSteppers() {
+    birthSteppers_->changed = [this](base::CivilDate date) {
+        view().manualDate = false;
+        view().birth.date = date;
+        calcBio();
+    };
+    readingSteppers_->changed = [this](base::CivilDate date) {
+        view().manualDate = true;
+        view().reading = date;
+        calcBio();
+    };
+    connect(&TimerBio_, &QTimer::timeout, this, [this] {
+        if (halfHourIsOver(view())) calcBio();
+    });
+    TimerBio_.setObjectName(QStringLiteral("TimerBio"));
+    TimerBio_.start(halfMinute);
+}
+
+void frmBio::connectTimeOfBirth() {
+    connect(ui_->VScrollHora, &Stepper::valueChanged, this, [this](int hour) {
+        view().birth.time.hour = hour;
+        calcBio();
+    });
+    connect(ui_->VScrollMinuto, &Stepper::valueChanged, this, [this](int minute) {
+        view().birth.time.minute = minute;
+        calcBio();
+    });
+    connect(ui_->XPButtonHora, &QPushButton::clicked, this, &frmBio::askTimeOfBirth);
+    connect(ui_->CommandOk, &QPushButton::clicked, this, &frmBio::takeTimeOfBirth);
+}
+
+void frmBio::connectReading() {
+    connect(ui_->CmdHoy, &QPushButton::clicked, this, [this] {
+        view().manualDate = false;
+        calcBio();
+    });
+    connect(ui_->CmdGo, &QPushButton::clicked, this, [this] { goToReading(onSteppers(view().target)); });
+    connect(ui_->DTPicker1, &QDateEdit::dateChanged, this, &frmBio::takeTarget);
+    for (QToolButton* arrow : {ui_->CmdArrowLeft, ui_->CmdArrowRight}) {
+        connect(arrow, &QToolButton::pressed, this, &frmBio::holdArrow);
+        connect(arrow, &QToolButton::released, this, [this, arrow] { releaseArrow(arrow == ui_->CmdArrowLeft); });
+        arrow->installEventFilter(this);
+    }
+    TimerButton_.setObjectName(QStringLiteral("TimerButton"));
+    TimerButton_.setInterval(arrowInterval);
+    connect(&TimerButton_, &QTimer::timeout, this, &frmBio::repeatArrow);
+}
+
+void frmBio::connectProfiles() {
+    connect(ui_->ComboProfiles, &QComboBox::activated, this, &frmBio::pickProfile);
+    connect(ui_->XPButtonSave, &QPushButton::clicked, this, &frmBio::saveProfile);
+    connect(ui_->XPButtonEdit, &QPushButton::clicked, this, &frmBio::editProfiles);
+    connect(ui_->XPButtonCompa, &QPushButton::clicked, this, &frmBio::compareProfiles);
+    connect(ui_->CmdAlert, &QPushButton::clicked, this, &frmBio::alertByHand);
+    connect(ui_->CmdSnap, &QPushButton::clicked, this, &frmBio::takeSnapshot);
+}
+
+void frmBio::ownLoad() {
+    auto& files = desktop().files;
+    loadBioView(files, record().bio, view(), base::civilDateOf(desktop().clock.now()));
+    const QSignalBlocker quiet(ui_->DTPicker1);
+    ui_->DTPicker1->setDate(qtDate(view().target));
+    showBirth();
+    createProfileList(files);
+    const auto names = biorhythm::profileNames(files);
+    fillProfiles(names, selectedAtLoad(names, record().options.leerPerfilBio()));
+    readSecondProfile(files, record().options, record().second);
+    showSecondAtLoad();
+    calcBio();
+}
+
+void frmBio::showSecondAtLoad() {
+    const SecondProfile& second = record().second;
+    const bool drawn = second.drawSecondFlag && !second.profileSecondName.empty();
+    if (drawn) return showSecondName(qtText(second.profileSecondName));
+    hideSecondName();
+}
+
+void frmBio::showBirth() {
+    birthSteppers_->show(view().birth.date);
+    ui_->VScrollHora->showValue(view().birth.time.hour);
+    ui_->VScrollMinuto->showValue(view().birth.time.minute);
+    ui_->LabelHoraBirth->setText(QString::fromStdString(birthTimeCaption(view().birth.time)));
+}
+
+void frmBio::calcBio() {
+    const BioShown shown = biorhythm::calcBio(record().bio, view(), desktop().clock.now());
+    readingSteppers_->show(view().reading);
+    show(shown);
+    mschart();
+}
+
+void frmBio::show(const BioShown& shown) {
+    ui_->lblDays->setText(QString::fromStdString(shown.livedDays));
+    ui_->LblRest->setNum(shown.remainingDays);
+    ui_->LabelMedia->setText(QString::fromStdString(shown.average));
+    setColour(*ui_->LabelMedia, colourOf(shown.averageColour));
+    ui_->LabelGetTime->setText(QString::fromStdString(shown.time));
+    const auto rows = cycleRows(*ui_);
+    CycleValues bars{};
+    for (std::size_t i = 0; i < cycleCount; ++i) {
+        const CycleShown& cycle = shown.cycles[i];
+        bars[i] = cycle.bar;
+        rows[i].value->setText(QString::fromStdString(cycle.caption));
+        setColour(*rows[i].value, colourOf(cycle.colour));
+        if (cycle.trend == Trend::level) continue;
+        rows[i].up->setVisible(cycle.trend == Trend::rising);
+        rows[i].down->setVisible(cycle.trend == Trend::falling);
+    }
+    ui_->PicBio->setBars(bars);
+}
+
+void frmBio::mschart() {
+    const auto profiles = static_cast<std::size_t>(ui_->ComboProfiles->count());
+    const base::CivilTime clock = base::civilTimeOf(desktop().clock.now());
+    SecondProfile& second = record().second;
+    ui_->MSChart1->showChart(biorhythm::mschart(record().bio.lived, second, profiles, view().reading, clock));
+    if (!drawsSecond(second, profiles)) hideSecondName();
+}
+
+QString frmBio::mainName() const {
+    return ui_->ComboProfiles->currentText();
+}
+
+QStringList frmBio::profileNames() const {
+    QStringList names;
+    for (int i = 0; i < ui_->ComboProfiles->count(); ++i) names << ui_->ComboProfiles->itemText(i);
+    return names;
+}
+
+void frmBio::listProfilesAnew() {
+    const auto names = biorhythm::profileNames(desktop().files);
+    fillProfiles(names, selectedAfterEdit(names, record().options.leerPerfilBio()));
+}
+
+void frmBio::fillProfiles(const std::vector<std::string>& names, std::optional<std::size_t> selected) {
+    QStringList texts;
+    for (const std::string& name : names) texts << qtText(name);
+    ui_->ComboProfiles->clear();
+    ui_->ComboProfiles->addItems(texts);
+    shownProfile_ = selected ? static_cast<int>(*selected) : -1;
+    ui_->ComboProfiles->setCurrentIndex(shownProfile_);
+    ui_->ComboProfiles->setVisible(!names.empty());
+}
+
+void frmBio::placeOver(QWidget& window) const {
+    window.move(frameGeometry().center() - window.rect().center());
+}
+
+void frmBio::showSecondName(const QString& name) {
+    ui_->TextSecondProf->setText(name);
+    ui_->TextSecondProf->setCursorPosition(0);
+    ui_->TextSecondProf->show();
+}
+
+void frmBio::hideSecondName() {
+    ui_->TextSecondProf->hide();
+}
+
+void frmBio::showTimeControls(bool visible) {
+    ui_->timeOfBirth->setCurrentWidget(visible ? ui_->setting : ui_->asking);
+}
+
+void frmBio::askTimeOfBirth() {
+    desktop().boxes.show(platform::BoxIcon::information, std::string(text::birthTimeAdvice));
+    showTimeControls(true);
+    ui_->VScrollHora->setFocus();
+    ui_->VScrollHora->selectAll();
+}
+
+void frmBio::takeTimeOfBirth() {
+    const bool hadFocus = ui_->CommandOk->hasFocus();
+    showTimeControls(false);
+    if (hadFocus) ui_->XPButtonHora->setFocus();
+    saveBirthTime(desktop().files, record().bio, view().birth.time);
+    ui_->LabelHoraBirth->setText(QString::fromStdString(birthTimeCaption(view().birth.time)));
+}
+
+/// Until the next calculation the days are counted from today, and only then from the date of reading.
+void frmBio::takeTarget() {
+    view().target = civilDate(ui_->DTPicker1->date());
+    setFinalDate(record().bio, view().target);
+    ui_->LblRest->setNum(base::daysBetween(base::civilDateOf(desktop().clock.now()), view().target));
+}
+
+/// The three steppers count as moved once, with the whole date: on the way from one month to another the day would pass
+/// through dates that nobody asked for.
+void frmBio::goToReading(base::CivilDate date) {
+    if (date == view().reading) return;
+    view().manualDate = true;
+    view().reading = date;
+    calcBio();
+}
+
+void frmBio::stepReading(bool back) {
+    goToReading(back ? stepBack(view().reading) : stepOn(view().reading));
+}
+
+void frmBio::holdArrow() {
+    view().manualDate = true;
+    arrowStepped_ = false;
+    TimerButton_.start();
+}
+
+/// A click that is over before the first tick makes its step as well.
+void frmBio::releaseArrow(bool back) {
+    const bool wasHeld = TimerButton_.isActive();
+    TimerButton_.stop();
+    if (wasHeld && !arrowStepped_) stepReading(back);
+}
+
+void frmBio::repeatArrow() {
+    arrowStepped_ = true;
+    stepReading(ui_->CmdArrowLeft->isDown());
+}
+
+bool frmBio::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Left || key == Qt::Key_Right) {
+            stepReading(key == Qt::Key_Left);
+            return true;
+        }
+    }
+    return ModuleWindow::eventFilter(watched, event);
+}
+
+void frmBio::hideEvent(QHideEvent* event) {
+    TimerButton_.stop();
+    ModuleWindow::hideEvent(event);
+}
+
+void frmBio::pickProfile() {
+    const std::string name = mainName().toStdString();
+    if (!biorhythm::pickProfile(desktop().files, record().options, record().bio, view(), name))
+        return ui_->ComboProfiles->setCurrentIndex(shownProfile_);
+    shownProfile_ = ui_->ComboProfiles->currentIndex();
+    showBirth();
+    calcBio();
+    takeTimeOfBirth();
+}
+
+void frmBio::saveProfile() {
+    const std::string time = ui_->LabelHoraBirth->text().mid(timeCaptionHead).toStdString();
+    const auto name =
+        biorhythm::saveProfile(desktop().files, desktop().boxes, record().options, view().birth.date, time);
+    if (!name) return;
+    ui_->ComboProfiles->addItem(qtText(*name));
+    shownProfile_ = ui_->ComboProfiles->count() - 1;
+    ui_->ComboProfiles->setCurrentIndex(shownProfile_);
+    ui_->ComboProfiles->show();
+}
+
+void frmBio::editProfiles() {
+    process().windows.touch("FrmProfiles", process()).showNormalState();
+}
+
+void frmBio::compareProfiles() {
+    if (ui_->ComboProfiles->count() < 2)
+        return desktop().boxes.show(platform::BoxIcon::warning, std::string(text::tooFewProfiles),
+                                    std::string(text::errorInfoTitle));
+    process().windows.touch("FrmCompaTab", process()).showNormalState();
+}
+
+void frmBio::takeSnapshot() {
+    process().windows.touch("FormSnap", process());
+    process().windows.unload("FormSnap");
+}
+
+void frmBio::notify(const std::function<void(const AlertOutlets&)>& tell) {
+    closeNotification(process());
+    if (process().notification) tell({*process().notification, desktop().sounds});
+}
+
+void frmBio::alertByHand() {
+    record().alerts.manualAlert = true;
+    notify([this](const AlertOutlets& outlets) {
+        const AlertMoment moment{desktop().clock.now(), view().reading};
+        biorhythm::alertByHand(record().alerts, record().bio, record().options.holders.alertLevel, moment, outlets);
+    });
+}
+
+void frmBio::showHelp() {
+    if (!helpIsDue(record().alerts, record().bio)) return;
+    notify([this](const AlertOutlets& outlets) { showHelpLines(record().alerts, outlets); });
+}
+
+bool frmBio::event(QEvent* event) {
+    // The slide lets events run: it is not to begin inside the activation.
+    if (event->type() == QEvent::WindowActivate) QTimer::singleShot(0, this, &frmBio::showHelp);
+    return ModuleWindow::event(event);
+}
+
+void frmBio::onMinimised(bool toSystray) {
+    if (toSystray && record().shell.notifOpen) closeNotification(process());
+}
+
+/// What was set stands in the files as soon as the window is out of sight: tip and alerts count with it.
+void frmBio::onHidden() {
+    saveBioState(desktop().files, record().bio, view().birth, view().target);
+}
+
+void frmBio::onUnload() {
+    unloadBeside();
+    record().alerts.welcomeShown = false;
+    record().alerts.manualAlert = false;
+    saveBioState(desktop().files, record().bio, view().birth, view().target);
+}
+
+/// The windows that work on this one go with it. While they stood the next module could not add its icon; a hidden
+/// program would be out of reach.
+void frmBio::unloadBeside() {
+    const bool heldIconBack = record().shell.noTrayAdd;
+    for (const char* name : {"FormMod", "FrmProfiles", "FrmCompaTab"}) process().windows.unload(name);
+    shell::ModuleWindow* next = process().windows.loadedModule();
+    if (!heldIconBack || record().shell.closingAll || next == this || !next) return;
+    const bool tooltipsOff = record().options.holders.tooltips == "ToolTips off";
+    next->ctxSysTray1().AddIconToSystray(tooltipsOff ? shell::programName : std::string_view{});
+}
 
 } // namespace velmoriax::biorhythm

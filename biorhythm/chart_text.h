@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "biorhythm/bio_chart.h"
+
+#include <string>
+
+namespace velmoriax::biorhythm {
+
+/// The chart in words, for those who cannot see its lines: a line a row with the day of the month and each series in
+/// per cent, as in "1: Physical 44.72 %, Emotional -12.10 %".
+std::string chartText(const ChartData& chart);
+
+} // namespace velmoriax::biorhythm

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "biorhythm/bio_chart.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace velmoriax::biorhythm {
+
+/// The line chart of thirty days. Who cannot see it hears its rows: the text is made when it is asked for.
+class BioPlot : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit BioPlot(QWidget* parent = nullptr);
+    ~BioPlot() override;
+
+    void showChart(const ChartData& chart);
+    const ChartData& chart() const { return chart_; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    class Drawing;
+
+    ChartData chart_;
+    Drawing* drawing_; ///< a child
+};
+
+} // namespace velmoriax::biorhythm

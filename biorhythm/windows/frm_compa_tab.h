@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "biorhythm/compatibility.h"
+#include "shell/windows/secondary_window.h"
+
+#include <memory>
+
+namespace Ui {
+class FrmCompaTab;
+}
+
+namespace velmoriax::biorhythm {
+
+class frmBio;
+
+/// Compares the main profile with a second one, at this moment and for good, and decides whether the chart of the view
+/// draws the second one.
+class FrmCompaTab : public shell::SecondaryWindow {
+    Q_OBJECT
+
+public:
+    explicit FrmCompaTab(shell::Process& process);
+    ~FrmCompaTab() override;
+
+    void load() override;
+
+protected:
+    void onUnload() override;
+
+private:
+    enum Tab { actualTab, generalTab, exitTab };
+
+    frmBio& view() const;
+    QString chosenName() const;
+    bool mainIsChosen() const;
+
+    void chooseProfile();
+    void showResults(bool visible);
+    void compare();
+    void showLabels(const CompatibilityLabels& labels);
+    void turnTo(int tab);
+    void plotToggled(bool checked);
+
+    std::unique_ptr<Ui::FrmCompaTab> ui_;
+    Compatibility compatibility_;
+};
+
+} // namespace velmoriax::biorhythm

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "biorhythm/windows/frm_profiles.h"
+
+#include "biorhythm/bio_texts.h"
+#include "biorhythm/profile_store.h"
+#include "biorhythm/windows/frm_bio.h"
+#include "biorhythm/windows/qt_values.h"
+#include "shell/windows/window_registry.h"
+#include "ui_frm_profiles.h"
+
+namespace velmoriax::biorhythm {
+
+FrmProfiles::FrmProfiles(shell::Process& process) : SecondaryWindow(process), ui_(std::make_unique<Ui::FrmProfiles>()) {
+    ui_->setupUi(this);
+    connect(ui_->CmdBorrar, &QPushButton::clicked, this, &FrmProfiles::deleteRecord);
+    connect(ui_->CmdMod, &QPushButton::clicked, this, &FrmProfiles::modifyRecord);
+    connect(ui_->CmdExit, &QPushButton::clicked, this, &FrmProfiles::exit);
+}
+
+FrmProfiles::~FrmProfiles() = default;
+
+void FrmProfiles::load() {
+    record().shell.noTrayAdd = true;
+    if (const frmBio* view = frmBio::loadedIn(process())) view->placeOver(*this);
+    ListaPerfiles();
+}
+
+void FrmProfiles::onUnload() {
+    record().shell.noTrayAdd = false;
+}
+
+void FrmProfiles::ListaPerfiles() {
+    QStringList lines;
+    for (const std::string& line : profileLines(desktop().files)) lines << qtText(line);
+    ui_->ListProfiles->clear();
+    ui_->ListProfiles->addItems(lines);
+}
+
+std::string FrmProfiles::selectedRecord() const {
+    const QListWidgetItem* item = ui_->ListProfiles->currentItem();
+    return item ? item->text().toStdString() : std::string();
+}
+
+void FrmProfiles::deleteRecord() {
+    removeProfileLines(desktop().files, desktop().boxes, selectedRecord(), deleteMessages);
+    ListaPerfiles();
+}
+
+void FrmProfiles::modifyRecord() {
+    if (selectedRecord().empty())
+        return desktop().boxes.show(platform::BoxIcon::warning, std::string(text::chooseRecord),
+                                    std::string(text::chooseRecordTitle));
+    process().windows.touch("FormMod", process()).showNormalState();
+}
+
+/// Only this way out brings the list of the view up to date; the close box leaves it as it is.
+void FrmProfiles::exit() {
+    if (frmBio* view = frmBio::loadedIn(process())) view->listProfilesAnew();
+    close();
+}
+
+} // namespace velmoriax::biorhythm
