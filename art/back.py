@@ -125,6 +125,7 @@ def medallion(S):
 
 
 def enamel_scene(S):
+    """what lies inside the enamel frame"""
     lattice(S)
     medallion(S)
 

@@ -216,6 +216,7 @@ def text_pen(mark):
 
 
 def black_pen(_mark):
+    """Every mark as a solid black shape."""
     return 'fill="#000"'
 
 
@@ -247,9 +248,14 @@ def make_plates(picture, frame, pattern, opening, scale):
     hole, field = Layer(), Layer(ground='#fff')
     hole.put([Mark('fill', opening)], black_pen)
     field.put(pattern.items, black_pen)
-    return Plates(pull(colour_pen), pull(metal_pen, '#000')[..., 0], 1 - pull(ink_pen, '#fff')[..., 0],
-                  1 - pull(hatching_pen, '#fff')[..., 0], pull(skin_pen, '#000')[..., 0], pull(text_pen)[..., 3],
-                  raster(hole.svg(), scale)[..., 3], 1 - raster(field.svg(), scale)[..., 0])
+    return Plates(colour=pull(colour_pen),
+                  metal=pull(metal_pen, '#000')[..., 0],
+                  ink=1 - pull(ink_pen, '#fff')[..., 0],
+                  hatching=1 - pull(hatching_pen, '#fff')[..., 0],
+                  skin=pull(skin_pen, '#000')[..., 0],
+                  text=pull(text_pen)[..., 3],
+                  opening=raster(hole.svg(), scale)[..., 3],
+                  pattern=1 - raster(field.svg(), scale)[..., 0])
 
 
 # ---------- finishing ----------
@@ -266,32 +272,35 @@ def gilt(values):
 
 
 class Finish:
-    """Turns the plates of one card into its picture, a step a method."""
+    """Turns the plates of one card into its picture, a step a method. All that is random is drawn beforehand, so that
+    the steps may be changed without changing the others."""
 
     def __init__(self, plates, scale, rng):
-        self.plates, self.scale, self.rng = plates, scale, rng
-        self.shape = plates.ink.shape
-        self.row, self.column = grid(self.shape)
+        self.plates, self.scale = plates, scale
+        shape = plates.ink.shape
+        self.cloud = fbm(shape, 80 * scale, rng, 3)
+        self.leaf = fbm(shape, 23 * scale, rng, 3)
+        self.texture = fbm(shape, 14, rng, 3, stretch=1.8) * .05 + fbm(shape, 90, rng, 2) * .07
+        self.row, self.column = grid(shape)
         self.away = np.hypot((self.column - LIGHT[0] * scale) / (LIGHT_REACH[0] * scale),
                              (self.row - LIGHT[1] * scale) / (LIGHT_REACH[1] * scale))
         lines = (plates.ink > .5) | (np.abs(nd.sobel(plates.metal)) > .5)
         self.from_line = nd.distance_transform_edt(~lines).astype(np.float32)
+        self.gold = self.leaf_brightness()
 
     def sheen(self, length):
-        """Slow waves of light across the card, `length` units from crest to crest over 2 pi."""
+        """Phase of slow waves of light across the card; a radian is `length` units high."""
         return (self.column * .6 + self.row) / (length * self.scale)
 
     def field(self, colours):
         """Enamel that is brightest above the middle."""
         middle, light, shade = colours
-        cloud = .10 * fbm(self.shape, 80 * self.scale, self.rng, 3)
-        return ramp(np.clip(1 - self.away + cloud, 0, 1), [(0, shade), (.5, middle), (1, light)])
+        return ramp(np.clip(1 - self.away + .10 * self.cloud, 0, 1), [(0, shade), (.5, middle), (1, light)])
 
-    def lay_gold(self):
-        """How bright leaf would be at each pixel, by the slope of the relief, its own unevenness and the sheen."""
+    def leaf_brightness(self):
+        """How bright leaf is at each pixel, by the slope of the relief, its own unevenness and the sheen."""
         right, down = relief(self.from_line, 9 * self.scale)
-        self.leaf = fbm(self.shape, 23 * self.scale, self.rng, 3)
-        self.gold = .55 - .36 * (right + down) + .11 * self.leaf + .14 * np.sin(self.sheen(75) + 1.2 * self.leaf)
+        return .55 - .36 * (right + down) + .11 * self.leaf + .14 * np.sin(self.sheen(75) + 1.2 * self.leaf)
 
     def tooled(self, image):
         """The pattern as fine raised gold, fading away from the light."""
@@ -313,11 +322,10 @@ class Finish:
         right, down = (nd.gaussian_filter(slope, 2.2) for slope in relief(self.from_line, 17 * self.scale))
         light = -(right * .75 + down * .95)
         strength = 1 - .62 * self.plates.skin
-        texture = fbm(self.shape, 14, self.rng, 3, stretch=1.8) * .05 + fbm(self.shape, 90, self.rng, 2) * .07
         rim = np.exp(-self.from_line / (3.5 * self.scale))
         deep = np.clip(colour * colour * .92, 0, 1)
         paint = mix(colour, deep, np.clip(.62 * rim * strength - .55 * light * strength, 0, .9))
-        paint = np.clip(paint * (1 + .30 * np.clip(light, -1, 1) * strength + texture)[..., None], 0, 1)
+        paint = np.clip(paint * (1 + .30 * np.clip(light, -1, 1) * strength + self.texture)[..., None], 0, 1)
         return mix(paint, 1 - (1 - paint) * .55, np.clip(light - .38, 0, 1) * .75 * strength)
 
     def drawn(self, image):
@@ -358,9 +366,7 @@ def render(draw, numeral, title, field='crimson', pattern=damask, seed=3, scale=
     pattern(background)
     plates = make_plates(picture, frame(numeral, title), background, opening or arch(), scale)
     finish = Finish(plates, scale, np.random.default_rng(seed))
-    image = finish.field(FIELDS[field])
-    finish.lay_gold()
-    image = finish.shadowed(finish.tooled(image))
+    image = finish.shadowed(finish.tooled(finish.field(FIELDS[field])))
     image = mix(image, finish.paint(), nd.gaussian_filter(plates.alpha, 1))
     image = mix(image, gilt(finish.gold), np.clip(plates.metal, 0, 1))
     return finish.varnished(finish.lettered(finish.edged(finish.drawn(image))))

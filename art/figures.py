@@ -30,8 +30,8 @@ def eye(S, x, y, k=1, far=1, look=0, w=1):
 
 def face(S, x, y, k=1, turn=0, flip=False, sex='m', lw=4, mood=0, look=None, age=0):
     """Face without hair. turn goes from 0, frontal, to 1, three quarters to the viewer's left (flip for the right).
-    mood lifts the inner ends of the brows downwards in units, negative for dread; look moves the eyes, which by default
-    follow the turn; age adds wrinkles to the brow."""
+    mood lowers the brows by so many units and their inner ends by twice that: sternness, or dread if it is negative.
+    look moves the eyes, which by default follow the turn; age adds wrinkles to the brow."""
     t = -turn * .8                  # how far the features slide towards the turn
     left, right = 36 - 5 * turn, 36 + 1 * turn
     jaw = 27 if sex == 'f' else 30
