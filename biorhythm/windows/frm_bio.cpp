@@ -11,6 +11,7 @@
 #include "biorhythm/windows/date_steppers.h"
 #include "biorhythm/windows/qt_values.h"
 #include "shell/windows/look.h"
+#include "shell/windows/notifications.h"
 #include "shell/windows/secondary_window.h"
 #include "shell/windows/window_registry.h"
 #include "ui_frm_bio.h"
@@ -37,14 +38,6 @@ void setColour(QWidget& label, const QColor& colour) {
     if (palette.color(QPalette::WindowText) == colour) return;
     palette.setColor(QPalette::WindowText, colour);
     label.setPalette(palette);
-}
-
-/// A notification that stands slides out and is gone before something new is told.
-void closeNotification(shell::Process& process) {
-    if (!process.windows.loaded("Notif")) return;
-    process.desktop.events.letRun();
-    process.windows.unload("Notif");
-    process.record.shell.notifOpen = false;
 }
 
 /// The labels of one cycle.
@@ -373,7 +366,7 @@ void frmBio::takeSnapshot() {
 }
 
 void frmBio::notify(const std::function<void(const AlertOutlets&)>& tell) {
-    closeNotification(process());
+    shell::closeNotification(process());
     if (process().notification) tell({*process().notification, desktop().sounds});
 }
 
@@ -397,7 +390,7 @@ bool frmBio::event(QEvent* event) {
 }
 
 void frmBio::onMinimised(bool toSystray) {
-    if (toSystray && record().shell.notifOpen) closeNotification(process());
+    if (toSystray) shell::closeNotification(process());
 }
 
 /// What was set stands in the files as soon as the window is out of sight: tip and alerts count with it.

@@ -6,6 +6,7 @@
 #include "biorhythm/profile_files.h"
 #include "shell/window_position.h"
 #include "shell/windows/look.h"
+#include "shell/windows/notifications.h"
 #include "shell/windows/topmost.h"
 #include "shell/windows/window_place.h"
 #include "shell/windows/window_registry.h"
@@ -275,7 +276,7 @@ void FrmCartaDia::onHidden() {
 
 void FrmCartaDia::onMinimised(bool toSystray) {
     closeMoonDetails();
-    if (toSystray && record().shell.notifOpen && process().notification) process().notification->close();
+    if (toSystray) shell::closeNotification(process());
 }
 
 void FrmCartaDia::onUnload() {
