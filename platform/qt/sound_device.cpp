@@ -76,6 +76,9 @@ SDL_RWops* memoryFile(const std::string& bytes) {
 
 SoundDevice::~SoundDevice() {
     close();
+    Mix_Quit();
+    SDL_Quit();
+    SDL_TLSCleanup(); // what the library keeps for this thread
 }
 
 bool SoundDevice::open() {
