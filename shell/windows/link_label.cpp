@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/link_label.h"
 
+#include "shell/windows/picture_box.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -30,9 +32,7 @@ void LinkLabel::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent* event) {
-    const bool activates =
-        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!activates) return QLabel::keyPressEvent(event);
+    if (!isClickKey(*event)) return QLabel::keyPressEvent(event);
     if (!event->isAutoRepeat()) Q_EMIT clicked();
 }
 
