@@ -108,6 +108,7 @@ protected:
     /// Lets a process write as fast as it can, and kills it after some time.
     void killWhileWriting(std::chrono::microseconds time) {
         const ::pid_t writer = ::fork();
+        ASSERT_GT(writer, -1) << "no process to kill";
         if (writer == 0) {
             for (int turn = 0;; ++turn) GetParam().write(files_, turn);
         }
