@@ -68,6 +68,7 @@ TEST_F(Hub, TheSecondsTimerTicksOnceInEachSecond) {
     timer.begin();
     EXPECT_GT(timer.interval(), 0);
     EXPECT_LE(timer.interval(), 1020);
+    timer.stop();
     QMetaObject::invokeMethod(&timer, "timeout");
     EXPECT_TRUE(timer.isActive()) << "each tick sets the next";
     const auto next = QDateTime::currentMSecsSinceEpoch() + timer.remainingTime();
