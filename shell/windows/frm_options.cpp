@@ -3,6 +3,8 @@
 
 #include "shell/modules.h"
 #include "shell/option_values.h"
+#include "shell/windows/module_window.h"
+#include "shell/windows/window_registry.h"
 #include "ui_frm_options.h"
 
 #include <QAbstractButton>
@@ -49,6 +51,7 @@ void FrmOptions::connectOptions() {
         connect(&button, &QAbstractButton::clicked, this, [this, option] {
             dialog_.click(option);
             showState();
+            if (option == Option::CheckTooltips) tellTray();
         });
     });
 }
@@ -65,6 +68,11 @@ void FrmOptions::showState() {
     });
     ui_->Combolist->setCurrentIndex(state[OptionList::Combolist]);
     ui_->ComboBio->setCurrentIndex(state[OptionList::ComboBio]);
+}
+
+/// The icon's text depends on whether tips are on, and so does whether its timers run.
+void FrmOptions::tellTray() {
+    if (ModuleWindow* module = process().windows.loadedModule()) module->ctxSysTray1().tooltipsSwitched();
 }
 
 void FrmOptions::closeByButton() {

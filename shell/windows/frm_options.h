@@ -29,6 +29,7 @@ private:
     void connectList(QComboBox& box, OptionList list);
     void showState();
     void closeByButton();
+    void tellTray();
 
     std::unique_ptr<Ui::FrmOptions> ui_;
     OptionsDialog dialog_;

@@ -2,10 +2,10 @@
 #include "shell/windows/frm_tool_tip.h"
 
 #include "shell/windows/look.h"
+#include "shell/windows/moon_picture.h"
 #include "shell/windows/screen_measures.h"
 #include "shell/windows/tip_contents.h"
 #include "shell/windows/topmost.h"
-#include "shell/windows/turned_picture.h"
 #include "sky/moon_pictures.h"
 #include "sky/time_zone_shift.h"
 #include "ui_frm_tool_tip.h"
@@ -22,7 +22,6 @@ namespace {
 
 constexpr Qt::WindowFlags smallWindow =
     Qt::ToolTip | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus;
-constexpr int moonRim = 4;
 constexpr double roundMoon = 0.5; ///< no square of dark sky around it
 constexpr double titleShare = 1.15;
 
@@ -78,10 +77,7 @@ void FrmToolTip::fill() {
 void FrmToolTip::refreshTipMoon() {
     const base::DateValue moment = sky::localToUniversal(desktop().clock.now(), desktop().zone);
     const std::string name = sky::drawDayMoon(sky::MoonEngine(desktop().events), moment, record().sky);
-    const std::string directory = desktop().files.applicationDirectory() + std::string(sky::moonPictureDirectory);
-    const QImage moon = loadPicture(desktop().files, directory + name);
-    const bool turned = sky::turnsMoonPicture(record().options.holders.hemisferio);
-    ui_->ImgLuna->setPicture(turned ? turnedHalf(moon, moonRim) : moon);
+    ui_->ImgLuna->setPicture(moonPicture(desktop().files, name, record().options.holders.hemisferio));
 }
 
 void FrmToolTip::mouseMoveEvent(QMouseEvent*) {

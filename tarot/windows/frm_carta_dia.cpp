@@ -6,6 +6,7 @@
 #include "biorhythm/profile_files.h"
 #include "shell/window_position.h"
 #include "shell/windows/look.h"
+#include "shell/windows/moon_picture.h"
 #include "shell/windows/notifications.h"
 #include "shell/windows/topmost.h"
 #include "shell/windows/window_place.h"
@@ -17,7 +18,6 @@
 #include "sky/zodiac.h"
 #include "tarot/windows/card_description.h"
 #include "tarot/windows/hover_watch.h"
-#include "tarot/windows/moon_picture.h"
 #include "tarot/windows/sign_display.h"
 #include "tarot/windows/tarot_pictures.h"
 #include "ui_frm_carta_dia.h"
@@ -152,7 +152,7 @@ void FrmCartaDia::drawDayMoon() {
     const QPointer<FrmCartaDia> self(this);
     const std::string name = sky::drawDayMoon(sky::MoonEngine(desktop().events), moment, record().sky);
     if (!self) return;
-    ui_->ImgLuna->setPicture(moonPicture(desktop().files, name, record().options.holders.hemisferio));
+    ui_->ImgLuna->setPicture(shell::moonPicture(desktop().files, name, record().options.holders.hemisferio));
 }
 
 void FrmCartaDia::loadBirth() {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tarot/windows/moon_picture.h"
+#include "shell/windows/moon_picture.h"
 
 #include "shell/windows/picture_box.h"
 #include "shell/windows/turned_picture.h"
 #include "sky/moon_pictures.h"
 
-namespace velmoriax::tarot {
+namespace velmoriax::shell {
 
 namespace {
 
@@ -15,8 +15,8 @@ constexpr int rimLeft = 4; ///< the edge that a moon keeps when it is turned
 
 QImage moonPicture(const platform::Files& files, const std::string& name, std::string_view hemisferio) {
     const std::string path = files.applicationDirectory() + std::string(sky::moonPictureDirectory) + name;
-    const QImage picture = shell::loadPicture(files, path);
-    return sky::turnsMoonPicture(hemisferio) ? shell::turnedHalf(picture, rimLeft) : picture;
+    const QImage picture = loadPicture(files, path);
+    return sky::turnsMoonPicture(hemisferio) ? turnedHalf(picture, rimLeft) : picture;
 }
 
-} // namespace velmoriax::tarot
+} // namespace velmoriax::shell
