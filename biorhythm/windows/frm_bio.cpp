@@ -88,8 +88,8 @@ void frmBio::dress() {
         rows[i].up->hide();
         rows[i].down->hide();
     }
-    ui_->CmdArrowLeft->setIcon(QIcon(QStringLiteral(":/bio/arrow_left.png")));
-    ui_->CmdArrowRight->setIcon(QIcon(QStringLiteral(":/bio/arrow_right.png")));
+    ui_->CmdArrowLeft->setIcon(QIcon(QStringLiteral(":/look/pictures/arrow_left-24.png")));
+    ui_->CmdArrowRight->setIcon(QIcon(QStringLiteral(":/look/pictures/arrow_right-24.png")));
     ui_->CmdAlert->setIcon(QIcon(QStringLiteral(":/bio/alert.png")));
     for (QLabel* label : {ui_->LabelGetTime, ui_->LabelLived, ui_->LabelRest, ui_->LabelAvg})
         shell::look::asQuiet(*label);

@@ -97,8 +97,8 @@ private:
     std::unique_ptr<Ui::frmBio> ui_;
     std::unique_ptr<DateSteppers> birthSteppers_;
     std::unique_ptr<DateSteppers> readingSteppers_;
-    QTimer TimerBio_;
-    QTimer TimerButton_;
+    QTimer TimerBio_{this};
+    QTimer TimerButton_{this};
     bool arrowStepped_ = false; ///< the arrow that is held has made a step already
     int shownProfile_ = -1;     ///< the entry of the profile list that was chosen last
 };

@@ -4,13 +4,13 @@
 #include "base/date_text.h"
 #include "shell/windows/look.h"
 #include "shell/windows/moon_picture.h"
+#include "shell/windows/night_calendar.h"
 #include "sky/moon_engine.h"
 #include "sky/moon_texts.h"
 #include "sky/zodiac.h"
 #include "tarot/day_view.h"
 #include "tarot/windows/card_description.h"
 #include "tarot/windows/card_picture.h"
-#include "tarot/windows/night_calendar.h"
 #include "tarot/windows/sign_display.h"
 #include "tarot/windows/tarot_pictures.h"
 #include "ui_frm_calendar.h"
@@ -50,7 +50,7 @@ FrmCalendar::FrmCalendar(shell::Process& process) :
 FrmCalendar::~FrmCalendar() = default;
 
 void FrmCalendar::dressControls() {
-    makeNightCalendar(*ui_->Calendar1);
+    shell::makeNightCalendar(*ui_->Calendar1);
     shell::look::asTitle(*ui_->LabelZod);
     for (QLabel* label : {ui_->LblFecha, ui_->LabelFase}) shell::look::asQuiet(*label);
     ui_->Imgfechasel->setCornerRadius(cardCornerShare);
@@ -104,7 +104,8 @@ void FrmCalendar::drawDateMoon(base::CivilDate date) {
     const sky::DateMoon moon = sky::drawDateMoon(sky::MoonEngine(desktop().events), date, record().sky);
     if (!self) return; // events have run inside, the end of this window among them
     if (!moon.pictureName.empty())
-        ui_->ImgLuna->setPicture(shell::moonPicture(desktop().files, moon.pictureName, record().options.holders.hemisferio));
+        ui_->ImgLuna->setPicture(
+            shell::moonPicture(desktop().files, moon.pictureName, record().options.holders.hemisferio));
     ui_->ImgLuna->setTip(text(moon.tip));
     ui_->LabelFase->show();
 }

@@ -2,9 +2,9 @@
 #include "tarot/windows/frm_oracle.h"
 
 #include "shell/windows/look.h"
+#include "shell/windows/night_calendar.h"
 #include "tarot/windows/card_description.h"
 #include "tarot/windows/card_picture.h"
-#include "tarot/windows/night_calendar.h"
 #include "ui_frm_oracle.h"
 
 #include <QDate>
@@ -68,7 +68,7 @@ void Frmoracle::dressControls() {
     ui_->ImageSoundMidOn->setAccessibleName(tr("Song on: switch it off"));
     ui_->ImageSoundMidOff->setAccessibleName(tr("Song off: switch it on"));
 
-    makeNightCalendar(*ui_->MonthView1);
+    shell::makeNightCalendar(*ui_->MonthView1);
     ui_->MonthView1->setAttribute(Qt::WA_StyledBackground);
     ui_->MonthView1->setContentsMargins(monthViewMargins);
     ui_->MonthView1->hide();

@@ -3,9 +3,9 @@
 
 class QCalendarWidget;
 
-namespace velmoriax::tarot {
+namespace velmoriax::shell {
 
 /// Gives a calendar the look of the house, English names, weeks from Sunday and the years 100 to 9999.
 void makeNightCalendar(QCalendarWidget& calendar);
 
-} // namespace velmoriax::tarot
+} // namespace velmoriax::shell

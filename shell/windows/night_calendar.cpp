@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tarot/windows/night_calendar.h"
+#include "shell/windows/night_calendar.h"
 
 #include "shell/windows/look.h"
 
@@ -7,7 +7,7 @@
 #include <QTextCharFormat>
 #include <QToolButton>
 
-namespace velmoriax::tarot {
+namespace velmoriax::shell {
 
 namespace {
 
@@ -33,13 +33,12 @@ void makeNightCalendar(QCalendarWidget& calendar) {
     calendar.setFirstDayOfWeek(Qt::Sunday);
     calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     calendar.setDateRange({firstYear, 1, 1}, {lastYear, 12, 31});
-    QTextCharFormat header = lettersIn(shell::look::gold());
-    header.setBackground(shell::look::panel());
+    QTextCharFormat header = lettersIn(look::gold());
+    header.setBackground(look::panel());
     calendar.setHeaderTextFormat(header);
-    for (const auto day : {Qt::Saturday, Qt::Sunday})
-        calendar.setWeekdayTextFormat(day, lettersIn(shell::look::gold()));
-    setArrow(calendar, "qt_calendar_prevmonth", ":/tarot/arrow_left.png");
-    setArrow(calendar, "qt_calendar_nextmonth", ":/tarot/arrow_right.png");
+    for (const auto day : {Qt::Saturday, Qt::Sunday}) calendar.setWeekdayTextFormat(day, lettersIn(look::gold()));
+    setArrow(calendar, "qt_calendar_prevmonth", ":/look/pictures/arrow_left-24.png");
+    setArrow(calendar, "qt_calendar_nextmonth", ":/look/pictures/arrow_right-24.png");
 }
 
-} // namespace velmoriax::tarot
+} // namespace velmoriax::shell

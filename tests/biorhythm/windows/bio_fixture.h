@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "biorhythm/windows/form_mod.h"
+#include "biorhythm/windows/form_snap.h"
+#include "biorhythm/windows/frm_bio.h"
+#include "biorhythm/windows/frm_compa_tab.h"
+#include "biorhythm/windows/frm_profiles.h"
+#include "support/window_fixture.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSpinBox>
+#include <QTest>
+
+namespace velmoriax::biorhythm {
+
+/// The Biorhythm view on the evening of 20 June 2026, for a person born on 15 March 1980 at 7:45.
+struct BioWindows : test::WindowFixture {
+    BioWindows() {
+        clock.set({2026, 6, 20}, {18, 30, 0});
+        files.at("\\bio.dat") = "15,3,1980\r\n";
+        files.at("\\horabio.dat") = "7,45\r\n";
+        files.at("\\biofinal.dat") = "0,0,0\r\n";
+        windows.addSecondary("FrmProfiles", [](shell::Process& p) { return new FrmProfiles(p); });
+        windows.addSecondary("FormMod", [](shell::Process& p) { return new FormMod(p); });
+        windows.addSecondary("FrmCompaTab", [](shell::Process& p) { return new FrmCompaTab(p); });
+    }
+
+    frmBio& open() { return load<frmBio>(shell::Module::biorhythms); }
+
+    static void press(const QWidget& window, const char* name) { control<QAbstractButton>(window, name).click(); }
+    static QString label(const QWidget& window, const char* name) { return control<QLabel>(window, name).text(); }
+    /// The text on a stepper.
+    static QString face(const QWidget& window, const char* name) { return control<QLineEdit>(window, name).text(); }
+    static void step(const QWidget& window, const char* name, int value) {
+        control<QSpinBox>(window, name).setValue(value);
+    }
+    static bool shown(const QWidget& window, const char* name) {
+        return control<QWidget>(window, name).isVisibleTo(&window);
+    }
+    std::string option(const char* key) { return record.options.option(key); }
+    std::string lines() { return files.at("\\perfiles.txt"); }
+
+    /// Day, month and year as the three faces of a date show them.
+    static QString birthShown(const QWidget& view) {
+        return face(view, "lblDayBirth") + u' ' + face(view, "lblMonthBirth") + u' ' + face(view, "lblYearBirth");
+    }
+    static QString readingShown(const QWidget& view) {
+        return face(view, "lblDayBio") + u' ' + face(view, "lblMonthBio") + u' ' + face(view, "lblYearBio");
+    }
+};
+
+} // namespace velmoriax::biorhythm

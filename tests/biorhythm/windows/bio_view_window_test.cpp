@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bio_fixture.h"
+#include "biorhythm/windows/bio_plot.h"
+#include "biorhythm/windows/stepper.h"
+
+#include <QAccessible>
+#include <QTimer>
+#include <QToolButton>
+
+namespace velmoriax::biorhythm {
+namespace {
+
+using platform::BoxIcon;
+using Shown = std::vector<test::FakeBoxes::Shown>;
+
+struct BioView : BioWindows {
+    frmBio& view = open();
+    QToolButton& left = control<QToolButton>(view, "CmdArrowLeft");
+    QToolButton& right = control<QToolButton>(view, "CmdArrowRight");
+};
+
+struct BioViewStart : BioWindows {};
+
+TEST_F(BioView, ShowsThePersonOfTheFilesToday) {
+    EXPECT_EQ(birthShown(view), QStringLiteral("15 March 1980"));
+    EXPECT_EQ(readingShown(view), QStringLiteral("20 June 2026"));
+    EXPECT_EQ(label(view, "LabelHoraBirth"), QStringLiteral("Time: 7:45"));
+    EXPECT_EQ(label(view, "lblDays"), QStringLiteral("16898.45"));
+    EXPECT_EQ(label(view, "LabelEmo"), QStringLiteral("(-9.74 %)"));
+    EXPECT_EQ(label(view, "LabelMedia"), QStringLiteral("-39.20% (negative: bad day)"));
+    EXPECT_EQ(label(view, "LabelGetTime"), QStringLiteral("Time: 18:30:00"));
+    EXPECT_EQ(label(view, "LblRest"), QStringLiteral("0"));
+    EXPECT_TRUE(shown(view, "Emodescmini") && !shown(view, "Emoascmini"));
+    EXPECT_FALSE(shown(view, "ComboProfiles") || shown(view, "TextSecondProf"));
+    EXPECT_FALSE(record.bioView.manualDate);
+    EXPECT_TRUE(files.has("\\perfiles.txt")) << "the list exists from the first load on";
+}
+
+TEST_F(BioView, KeepsTheDayWithinTheMonthBeforeItCalculates) {
+    step(view, "vsbDayBirth", 30);
+    step(view, "vsbMonthBirth", 2);
+    EXPECT_EQ(birthShown(view), QStringLiteral("29 February 1980"));
+    EXPECT_EQ(record.bio.birthDateText, "29/2/1980");
+    step(view, "vsbYearBirth", 2000);
+    EXPECT_EQ(birthShown(view), QStringLiteral("28 February 2000"));
+    EXPECT_EQ(control<QSpinBox>(view, "vsbDayBirth").maximum(), 28);
+    step(view, "vsbMonthBio", 2);
+    EXPECT_TRUE(record.bioView.manualDate);
+    step(view, "vsbDayBirth", 1);
+    EXPECT_EQ(readingShown(view), QStringLiteral("20 June 2026")) << "a change of the birth returns to today";
+}
+
+TEST_F(BioView, TakesTypedNumbersWhenTheyAreComplete) {
+    auto& year = control<QSpinBox>(view, "vsbYearBirth");
+    int events = 0;
+    QObject::connect(&year, &QSpinBox::valueChanged, &year, [&] { ++events; });
+    year.selectAll();
+    QTest::keyClicks(&year, QStringLiteral("1976"));
+    EXPECT_EQ(record.bioView.birth.date.year, 1980);
+    QTest::keyClick(&year, Qt::Key_Return);
+    EXPECT_EQ(record.bioView.birth.date.year, 1976);
+    EXPECT_EQ(events, 1);
+    auto& month = control<QSpinBox>(view, "vsbMonthBirth");
+    struct Typed {
+        const char* keys;
+        int taken;
+    };
+    for (const auto& [keys, taken] : std::vector<Typed>{{"7", 7}, {"dec", 12}, {"13", 1}, {"ju", 1}}) {
+        step(view, "vsbMonthBirth", 1);
+        month.selectAll();
+        QTest::keyClicks(&month, QString::fromLatin1(keys));
+        QTest::keyClick(&month, Qt::Key_Return);
+        EXPECT_EQ(month.value(), taken) << keys << ": neither a thirteenth month nor one of two is taken";
+    }
+}
+
+TEST_F(BioView, StepsTheReadingWhileAnArrowIsHeld) {
+    QTest::mousePress(&left, Qt::LeftButton);
+    EXPECT_TRUE(record.bioView.manualDate);
+    EXPECT_EQ(readingShown(view), QStringLiteral("20 June 2026")) << "the first step comes with the first tick";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return record.bioView.reading <= base::CivilDate{2026, 6, 17}; }));
+    QTest::mouseRelease(&left, Qt::LeftButton);
+    const base::CivilDate reached = record.bioView.reading;
+    QTest::qWait(250);
+    EXPECT_EQ(record.bioView.reading, reached);
+    QTest::mousePress(&right, Qt::RightButton);
+    EXPECT_FALSE(control<QTimer>(view, "TimerButton").isActive());
+    QTest::mouseClick(&right, Qt::LeftButton);
+    QTest::keyClick(&right, Qt::Key_Space);
+    QTest::keyClick(&right, Qt::Key_Right);
+    EXPECT_EQ(base::daysBetween(reached, record.bioView.reading), 3) << "a short click and each key step once";
+    press(view, "CmdHoy");
+    EXPECT_EQ(readingShown(view), QStringLiteral("20 June 2026"));
+}
+
+TEST_F(BioView, StopsAtTheBoundsAndCrossesMonths) {
+    struct Step {
+        base::CivilDate from;
+        Qt::Key key;
+        const char* to;
+    };
+    const std::vector<Step> steps{{{2100, 12, 31}, Qt::Key_Right, "31 December 2100"},
+                                  {{1900, 1, 1}, Qt::Key_Left, "1 January 1900"},
+                                  {{2026, 3, 1}, Qt::Key_Left, "28 February 2026"},
+                                  {{2026, 12, 31}, Qt::Key_Right, "1 January 2027"}};
+    for (const auto& [from, key, to] : steps) {
+        control<QDateEdit>(view, "DTPicker1").setDate({from.year, from.month, from.day});
+        press(view, "CmdGo");
+        QTest::keyClick(&left, key);
+        EXPECT_EQ(readingShown(view), QString::fromLatin1(to));
+    }
+}
+
+TEST_F(BioView, CountsTheTargetFromTodayUntilItCalculates) {
+    step(view, "vsbDayBio", 10);
+    control<QDateEdit>(view, "DTPicker1").setDate({2026, 7, 31});
+    EXPECT_EQ(label(view, "LblRest"), QStringLiteral("41"));
+    step(view, "vsbDayBio", 11);
+    EXPECT_EQ(label(view, "LblRest"), QStringLiteral("50"));
+    press(view, "CmdGo");
+    EXPECT_EQ(readingShown(view), QStringLiteral("31 July 2026"));
+    EXPECT_EQ(label(view, "LblRest"), QStringLiteral("0"));
+}
+
+TEST_F(BioView, ReturnsToTodayWithTheHalfHour) {
+    step(view, "vsbYearBio", 2031);
+    record.bioView.bioTickCount = 59;
+    control<QTimer>(view, "TimerBio").setInterval(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return readingShown(view) == QStringLiteral("20 June 2026"); }));
+}
+
+TEST_F(BioView, AsksForTheTimeOfBirth) {
+    EXPECT_FALSE(shown(view, "VScrollHora"));
+    press(view, "XPButtonHora");
+    EXPECT_EQ(boxes.shown, (Shown{{BoxIcon::information,
+                                   "If you know your time of birth put it (Biorhythms will be more accurate), if not "
+                                   "leave it to 12:00.",
+                                   ""}}));
+    EXPECT_TRUE(shown(view, "VScrollHora") && shown(view, "CommandOk") && !shown(view, "XPButtonHora"));
+    step(view, "VScrollHora", 9);
+    step(view, "VScrollMinuto", 5);
+    EXPECT_EQ(label(view, "lblDays"), QStringLiteral("16898.39")) << "it counts before it is confirmed";
+    EXPECT_EQ(files.at("\\horabio.dat"), "7,45\r\n");
+    press(view, "CommandOk");
+    EXPECT_EQ(files.at("\\horabio.dat"), "9,5\r\n");
+    EXPECT_EQ(label(view, "LabelHoraBirth"), QStringLiteral("Time: 9:05"));
+    EXPECT_TRUE(!shown(view, "LabelMinuto") && shown(view, "XPButtonHora"));
+}
+
+TEST_F(BioViewStart, PicksAProfileWithADayThatTheMonthOnShowLacks) {
+    files.at("\\bio.dat") = "10,2,1981\r\n";
+    files.at("\\perfiles.txt") = "Ann,May/31/1990,7:5\r\n\r\nNoDate,Sometime,7:45\r\nBob,May/3/1990,8:10\r\n";
+    frmBio& view = open();
+    auto& list = control<QComboBox>(view, "ComboProfiles");
+    EXPECT_EQ(list.currentText(), QStringLiteral("Ann")) << "the first one, without a stored name";
+    EXPECT_EQ(birthShown(view), QStringLiteral("10 February 1981"));
+    list.setCurrentIndex(0);
+    Q_EMIT list.activated(0);
+    EXPECT_EQ(birthShown(view), QStringLiteral("31 May 1990"));
+    EXPECT_EQ(label(view, "LabelHoraBirth"), QStringLiteral("Time: 7:05"));
+    EXPECT_EQ(files.at("\\bio.dat"), "31,5,1990\r\n");
+    EXPECT_EQ(files.at("\\horabio.dat"), "7,5\r\n");
+    EXPECT_EQ(option("Perfil-Bio"), "Ann");
+    list.setCurrentIndex(1);
+    Q_EMIT list.activated(1);
+    EXPECT_EQ(list.currentText(), QStringLiteral("Ann")) << "a person whose date cannot be read is not picked";
+}
+
+TEST_F(BioView, SavesAProfileOnce) {
+    boxes.textAnswers = {std::nullopt, "Ann", "Ann"};
+    for (int i = 0; i < 3; ++i) press(view, "XPButtonSave");
+    EXPECT_EQ(lines(), "Ann,March/15/1980,7:45\r\n");
+    EXPECT_EQ(boxes.shown, (Shown{{BoxIcon::warning, "This profile exists already, put another please.", "Error"}}));
+    EXPECT_EQ(view.profileNames(), QStringList{QStringLiteral("Ann")});
+    EXPECT_TRUE(shown(view, "ComboProfiles"));
+    EXPECT_EQ(option("Perfil-Bio"), "Ann");
+    press(view, "XPButtonCompa");
+    EXPECT_EQ(boxes.shown.back(),
+              (test::FakeBoxes::Shown{BoxIcon::warning, "To use this feature must be more than one saved profile",
+                                      "Error-Info"}));
+    EXPECT_FALSE(windows.loaded("FrmCompaTab"));
+}
+
+TEST_F(BioViewStart, ListsAThousandProfilesAndTellsItsRowsInWords) {
+    std::string& list = files.at("\\perfiles.txt");
+    for (int i = 0; i < 1000; ++i) list += "Person " + std::to_string(i) + ",March/15/1980,7:45\r\n";
+    files.at("\\opciones.ini") = "[opciones]\r\nPerfil-Bio=Person 777\r\nNombre secundario=Person 3\r\n"
+                                 "Dibujar secundario=1\r\n";
+    frmBio& view = open();
+    EXPECT_EQ(view.profileNames().size(), 1000);
+    EXPECT_EQ(view.mainName(), QStringLiteral("Person 777"));
+    EXPECT_EQ(face(view, "TextSecondProf"), QStringLiteral("Person 3"));
+    EXPECT_TRUE(shown(view, "TextSecondProf"));
+    auto& plot = control<BioPlot>(view, "MSChart1");
+    EXPECT_EQ(plot.chart().seriesCount, 8U);
+    const QString rows = QAccessible::queryAccessibleInterface(&plot)->text(QAccessible::Description);
+    EXPECT_EQ(rows.count(u'\n'), 30);
+    EXPECT_TRUE(rows.contains(QStringLiteral("20, date of biorhythm: Physical -97.53 %, Emotional -9.74 %")))
+        << qPrintable(rows);
+    EXPECT_TRUE(rows.contains(QStringLiteral("Physical2 -97.53 %"))) << "the two were born at the same time";
+}
+
+TEST_F(BioViewStart, OneProfileIsDrawnAlone) {
+    files.at("\\perfiles.txt") = "Ann,March/15/1980,7:45\r\n";
+    files.at("\\opciones.ini") = "[opciones]\r\nNombre secundario=Ann\r\nDibujar secundario=1\r\n";
+    frmBio& view = open();
+    EXPECT_EQ(control<BioPlot>(view, "MSChart1").chart().seriesCount, 4U);
+    EXPECT_FALSE(shown(view, "TextSecondProf"));
+}
+
+TEST_F(BioViewStart, TellsWhatToDoWhileNoBirthDateIsSet) {
+    files.at("\\bio.dat") = "1,1,1900\r\n";
+    frmBio& view = open();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !notification.texts.empty(); })) << "on the first activation";
+    EXPECT_EQ(notification.texts[0], helpLines());
+    EXPECT_EQ(sounds.played, std::vector<std::string>{"Url.wav"});
+    QEvent again(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&view, &again);
+    QTest::qWait(20);
+    EXPECT_EQ(notification.texts.size(), 1U);
+    press(view, "CmdAlert");
+    EXPECT_EQ(notification.texts.size(), 2U);
+    EXPECT_TRUE(record.alerts.manualAlert);
+}
+
+TEST_F(BioView, AlertsForTheDateOnShow) {
+    record.options.holders.alertLevel = "zero";
+    press(view, "CmdAlert");
+    const std::string today = notification.texts.back();
+    EXPECT_NE(today.find("Physical: -97.53 %"), today.npos);
+    step(view, "vsbDayBio", 1);
+    press(view, "CmdAlert");
+    EXPECT_NE(notification.texts.back(), today);
+}
+
+TEST_F(BioView, SavesWhenItIsHiddenAndWhenItGoes) {
+    record.options.holders.bgSound = "SiBgSound";
+    step(view, "vsbDayBirth", 16);
+    EXPECT_EQ(files.at("\\bio.dat"), "15,3,1980\r\n");
+    view.hideToTray();
+    EXPECT_EQ(files.at("\\bio.dat"), "16,3,1980\r\n");
+    step(view, "vsbDayBirth", 17);
+    record.alerts.welcomeShown = record.alerts.manualAlert = true;
+    press(view, "XPButtonEdit");
+    EXPECT_TRUE(record.shell.noTrayAdd);
+    view.unloadAtExit();
+    EXPECT_EQ(files.at("\\bio.dat"), "17,3,1980\r\n");
+    EXPECT_EQ(files.at("\\biofinal.dat"), "20,6,2026\r\n");
+    EXPECT_FALSE(record.alerts.welcomeShown || record.alerts.manualAlert);
+    EXPECT_EQ(sounds.played, std::vector<std::string>{"boop.wav"});
+    EXPECT_FALSE(windows.loaded("FrmProfiles")) << "the windows that work on the view go with it";
+    EXPECT_FALSE(record.shell.noTrayAdd);
+}
+
+TEST_F(BioView, MnemonicsAreUnique) {
+    QStringList keys;
+    for (const QWidget* control : view.findChildren<QWidget*>()) {
+        const QString text = control->property(control->inherits("QGroupBox") ? "title" : "text").toString();
+        const qsizetype mark = text.indexOf(u'&');
+        if (mark >= 0 && !control->inherits("QMenu")) keys << text.mid(mark + 1, 1).toUpper();
+    }
+    keys << QStringLiteral("G");
+    const qsizetype all = keys.size();
+    EXPECT_GE(all, 15);
+    EXPECT_EQ(keys.removeDuplicates(), 0) << all;
+}
+
+} // namespace
+} // namespace velmoriax::biorhythm

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bio_fixture.h"
+#include "biorhythm/windows/bio_plot.h"
+#include "biorhythm/windows/picture_to_jpeg.h"
+
+#include <QCheckBox>
+#include <QTabBar>
+
+namespace velmoriax::biorhythm {
+namespace {
+
+using platform::BoxIcon;
+using Shown = std::vector<test::FakeBoxes::Shown>;
+
+struct WithProfiles : BioWindows {
+    frmBio& openWithProfiles() {
+        files.at("\\perfiles.txt") =
+            "Ann,March/15/1980,7:45\r\n\r\nBob,January/1/1980,12:30\r\nJoAnn,March/15/1980,7:45\r\n";
+        files.at("\\opciones.ini") = "[opciones]\r\nPerfil-Bio=Ann\r\n";
+        return open();
+    }
+
+    QWidget& beside(const char* button, const char* window) {
+        press(view, button);
+        return *windows.loaded(window);
+    }
+    static void choose(const QWidget& window, int row) {
+        control<QListWidget>(window, "ListProfiles").setCurrentRow(row);
+    }
+    QStringList offered() { return view.profileNames(); }
+    std::size_t series() { return control<BioPlot>(view, "MSChart1").chart().seriesCount; }
+
+    frmBio& view = openWithProfiles();
+};
+
+struct Profiles : WithProfiles {
+    QWidget& list = beside("XPButtonEdit", "FrmProfiles");
+    QWidget& edit(int row) {
+        choose(list, row);
+        press(list, "CmdMod");
+        return *windows.loaded("FormMod");
+    }
+};
+
+struct CompatibilityWindow : WithProfiles {
+    QWidget& window = beside("XPButtonCompa", "FrmCompaTab");
+    QTabBar& tabs = control<QTabBar>(window, "SSTab1");
+    bool resultsShown() {
+        return shown(window, "LabelInfo") && shown(window, "LabelFis") && shown(window, "LabelMedia");
+    }
+};
+
+TEST_F(Profiles, DeleteTakesEveryLineThatHoldsTheChosenOne) {
+    EXPECT_TRUE(record.shell.noTrayAdd);
+    EXPECT_EQ(control<QListWidget>(list, "ListProfiles").count(), 3) << "blank lines are not listed";
+    press(list, "CmdBorrar");
+    EXPECT_EQ(files.temporaryCount, 0) << "nothing is chosen";
+    choose(list, 0);
+    press(list, "CmdBorrar");
+    EXPECT_EQ(lines(), "\r\nBob,January/1/1980,12:30\r\n");
+    EXPECT_EQ(offered().size(), 3) << "the view learns of it through Exit alone";
+    press(list, "CmdExit");
+    EXPECT_EQ(offered(), QStringList{QStringLiteral("Bob")});
+    EXPECT_EQ(view.mainName(), QStringLiteral("Bob")) << "the stored name is gone: the last entry stands";
+    EXPECT_EQ(birthShown(view), QStringLiteral("15 March 1980"));
+    EXPECT_EQ(option("Perfil-Bio"), "Ann");
+    EXPECT_FALSE(record.shell.noTrayAdd || windows.loaded("FrmProfiles"));
+}
+
+TEST_F(Profiles, TheCloseBoxLeavesTheListOfTheViewAndTheLastDeletionHidesIt) {
+    choose(list, 1);
+    press(list, "CmdBorrar");
+    list.close();
+    EXPECT_EQ(offered().size(), 3);
+    QWidget& again = beside("XPButtonEdit", "FrmProfiles");
+    choose(again, 0);
+    press(again, "CmdBorrar");
+    press(again, "CmdExit");
+    EXPECT_FALSE(shown(view, "ComboProfiles"));
+}
+
+TEST_F(Profiles, ModifyMovesTheRecordToTheEnd) {
+    press(list, "CmdMod");
+    EXPECT_EQ(boxes.shown, (Shown{{BoxIcon::warning, "You must choose a record", "ErrorInfo"}}));
+    QWidget& form = edit(1);
+    EXPECT_EQ(face(form, "TextName"), QStringLiteral("Bob"));
+    EXPECT_EQ(control<QDateEdit>(form, "DTPicker1").date(), QDate(1980, 1, 1));
+    EXPECT_EQ(face(form, "LabelHora") + u':' + face(form, "LabelMinuto"), QStringLiteral("12:30"));
+    EXPECT_EQ(lines().find("Bob"), 26U) << "the list stands until it is submitted";
+    step(form, "VScrollHora", 7);
+    step(form, "VScrollMinuto", 5);
+    press(form, "CmdAcept");
+    EXPECT_EQ(lines(), "Ann,March/15/1980,7:45\r\n\r\nJoAnn,March/15/1980,7:45\r\nBob,January/1/1980,7:5\r\n");
+    EXPECT_EQ(control<QListWidget>(list, "ListProfiles").item(2)->text(), QStringLiteral("Bob,January/1/1980,7:5"));
+    EXPECT_FALSE(windows.loaded("FormMod"));
+    EXPECT_FALSE(files.exists("/tmp/tmp1")) << "it took the list's place";
+}
+
+TEST_F(Profiles, CancelLeavesTheListAndACopyBehind) {
+    const std::string before = lines();
+    press(edit(2), "CmdCancel");
+    EXPECT_EQ(lines(), before);
+    EXPECT_EQ(files.contents["/tmp/tmp1"], "Ann,March/15/1980,7:45\r\n\r\nBob,January/1/1980,12:30\r\n");
+}
+
+TEST_F(Profiles, TellsWhatFailedAndLeavesTheList) {
+    const std::string before = lines();
+    files.temporaryNameFails = true;
+    edit(1).close();
+    choose(list, 1);
+    press(list, "CmdBorrar");
+    files.temporaryFolderMissing = true;
+    choose(list, 1);
+    press(list, "CmdBorrar");
+    edit(1).close();
+    std::vector<std::string> told;
+    for (const auto& box : boxes.shown) told.push_back(box.text);
+    EXPECT_EQ(told,
+              (std::vector<std::string>{"Error searching the name of file.", "Error getting temporary file name.",
+                                        "Error getting temporary file path.", "Error searching the path of file."}));
+    EXPECT_EQ(lines(), before);
+}
+
+TEST_F(CompatibilityWindow, ComparesAndDrawsTheSecondProfile) {
+    EXPECT_TRUE(record.shell.noTrayAdd);
+    EXPECT_EQ(label(window, "LabelProMain"), QStringLiteral("Main profile: Ann"));
+    EXPECT_EQ(label(window, "LabelFis"), QStringLiteral("Physical:"));
+    choose(window, 1);
+    EXPECT_EQ(label(window, "LabelInfo"), QStringLiteral("Complementarity between Ann and Bob for the day "
+                                                         "June/20/2026 18:30:00 (0-100 %):"));
+    EXPECT_EQ(option("Nombre secundario"), "Bob");
+    EXPECT_EQ(series(), 4U);
+    tabs.setCurrentIndex(1);
+    EXPECT_EQ(label(window, "LabelInfo"), QStringLiteral("Affinity between Ann and Bob forever (0-100 %):"));
+    EXPECT_EQ(label(window, "LabelIntu"), QStringLiteral("Intuition: 89.47 %"));
+    EXPECT_EQ(label(window, "LabelMedia"),
+              QStringLiteral("Mean (Physi + Emo + Intell + Intui): 56.52 % (little affinity)"));
+    control<QCheckBox>(window, "CheckPlot").setChecked(true);
+    EXPECT_EQ(series(), 8U);
+    EXPECT_EQ(face(view, "TextSecondProf"), QStringLiteral("Bob"));
+    EXPECT_EQ(option("Dibujar secundario"), "1");
+    tabs.setCurrentIndex(2);
+    EXPECT_FALSE(windows.loaded("FrmCompaTab") || record.shell.noTrayAdd);
+    EXPECT_EQ(series(), 8U) << "the chart keeps what was set last";
+}
+
+TEST_F(CompatibilityWindow, APersonOfTheMainNameIsNoOther) {
+    choose(window, 1);
+    control<QCheckBox>(window, "CheckPlot").setChecked(true);
+    choose(window, 0);
+    EXPECT_EQ(boxes.shown,
+              (Shown{{BoxIcon::warning, "You should choose a different profile that the main", "Error-Info"}}));
+    EXPECT_FALSE(resultsShown());
+    control<QCheckBox>(window, "CheckPlot").setChecked(false);
+    EXPECT_EQ(option("Dibujar secundario"), "1") << "the box does nothing then";
+    EXPECT_EQ(series(), 8U);
+    choose(window, 2);
+    EXPECT_TRUE(resultsShown());
+    EXPECT_FALSE(shown(view, "TextSecondProf")) << "the box is not checked";
+    window.close();
+    QWidget& again = beside("XPButtonCompa", "FrmCompaTab");
+    EXPECT_EQ(control<QListWidget>(again, "ListProfiles").currentRow(), 2) << "the stored one is compared at once";
+    EXPECT_TRUE(control<QCheckBox>(again, "CheckPlot").isChecked());
+    EXPECT_EQ(face(view, "TextSecondProf"), QStringLiteral("JoAnn"));
+}
+
+struct Snapshot : WithProfiles {
+    void take(const QByteArrayList& encoders = pictureEncoders()) {
+        windows.addSecondary("FormSnap", [encoders](shell::Process& p) {
+            auto* window = new FormSnap(p);
+            window->encoders = encoders;
+            return window;
+        });
+        press(view, "CmdSnap");
+    }
+    const std::string result = "/home/ann/velmoriax\\mysnap.jpg";
+    const test::FakeBoxes::Shown saved{BoxIcon::information,
+                                       "The picture has been saved in the application folder as mysnap.jpg", ""};
+};
+
+TEST_F(Snapshot, SavesTheViewAndOpensIt) {
+    boxes.whileOpen = [this] { EXPECT_TRUE(files.has("\\mysnap.bmp") && !files.has("\\mysnap.jpg")); };
+    take();
+    EXPECT_EQ(boxes.shown, Shown{saved});
+    EXPECT_FALSE(files.has("\\mysnap.bmp"));
+    EXPECT_EQ(opener.opened, std::vector<std::string>{result});
+    const QImage picture = QImage::fromData(QByteArray::fromStdString(files.at("\\mysnap.jpg")), "JPG");
+    EXPECT_EQ(picture.size(), view.size() * view.devicePixelRatio());
+    EXPECT_FALSE(windows.loaded("FormSnap"));
+}
+
+TEST_F(Snapshot, GoesOnWithoutAnEncoderAndOpensNothingAfterAFailure) {
+    files.at("\\mysnap.jpg") = "an older one";
+    take({"image/png"});
+    EXPECT_EQ(boxes.shown,
+              (Shown{saved, {BoxIcon::none, "Konnte keinen passenden Encoder ermitteln.", "Encoder Error"}}));
+    EXPECT_EQ(files.at("\\mysnap.jpg"), "an older one");
+    EXPECT_FALSE(files.has("\\mysnap.bmp"));
+    EXPECT_EQ(opener.opened, std::vector<std::string>{result});
+    files.readOnly = true;
+    take({"IMAGE/JPEG"});
+    EXPECT_EQ(boxes.shown.back(), saved);
+    EXPECT_EQ(opener.opened.size(), 1U);
+    files.readOnly = false;
+}
+
+} // namespace
+} // namespace velmoriax::biorhythm
