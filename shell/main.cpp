@@ -47,9 +47,11 @@ void nameApplication() {
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
+/// A picture whose size is told is read when it is drawn, not here.
 QIcon programIcon() {
     QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64}) icon.addFile(QStringLiteral(":/icons/velmoriax-%1.png").arg(size));
+    for (const int size : {16, 22, 24, 32, 48, 64})
+        icon.addFile(QStringLiteral(":/icons/velmoriax-%1.png").arg(size), {size, size});
     return icon;
 }
 
@@ -101,7 +103,8 @@ int main(int argc, char** argv) {
     desktop::FatalBox fatalBox;
     desktop::Application application(argc, argv, fatalBox);
     nameApplication();
-    application.setWindowIcon(programIcon());
+    const QIcon icon = programIcon();
+    application.setWindowIcon(icon);
     shell::look::apply(application);
 
     desktop::QtMessageBoxes boxes;
@@ -115,15 +118,16 @@ int main(int argc, char** argv) {
 
     desktop::SystemClock clock;
     desktop::SystemTimeZone zone;
-    desktop::Mixer mixer(files);
+    const std::string libraryFolder = QApplication::applicationDirPath().toStdString();
+    desktop::Mixer mixer(files, libraryFolder);
     desktop::QtDocumentOpener opener(files);
     desktop::XdgAutostart autostart(QApplication::applicationFilePath().toStdString());
     desktop::QtPendingEvents events;
     desktop::ClockRandom random;
-    desktop::DesktopTray tray(programIcon());
+    desktop::DesktopTray tray(icon);
     const desktop::PanelPosition panel(tray);
-    shell::DesktopServices services{clock, zone,      files,  mixer,  mixer, opener,
-                                    boxes, autostart, events, random, tray,  panel};
+    shell::DesktopServices services{clock,     zone,   files,  mixer, mixer, opener,       boxes,
+                                    autostart, events, random, tray,  panel, libraryFolder};
 
     shell::ProcessRecord record(files);
     shell::WindowRegistry windows;
@@ -139,10 +143,8 @@ int main(int argc, char** argv) {
     };
     const desktop::ExitSignals exitSignals(exitLikeTheMenu);
     followSession(application, exitLikeTheMenu);
-    try {
-        hub.load();
-    } catch (const base::RunTimeError& error) {
-        fatalBox.stop(error);
-    }
+    // Inside the event loop, like all that follows: the end may be asked for while the first windows still load.
+    QMetaObject::invokeMethod(
+        &application, [&hub] { hub.load(); }, Qt::QueuedConnection);
     return QApplication::exec();
 }

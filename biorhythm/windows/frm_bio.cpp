@@ -80,6 +80,7 @@ frmBio* frmBio::loadedIn(const shell::Process& process) {
 }
 
 void frmBio::dress() {
+    ui_->MSChart1->takeDrawing(loadPlotDrawing(desktop().libraryFolder, *ui_->MSChart1));
     const auto rows = cycleRows(*ui_);
     for (std::size_t i = 0; i < cycleCount; ++i) {
         setColour(*rows[i].name, colourOf(barTable[i].colour));

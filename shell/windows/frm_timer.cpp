@@ -4,6 +4,7 @@
 #include "biorhythm/profile_files.h"
 #include "shell/modules.h"
 #include "shell/windows/module_window.h"
+#include "shell/windows/notifications.h"
 #include "shell/windows/window_registry.h"
 #include "sky/moon_engine.h"
 #include "sky/moon_texts.h"
@@ -35,6 +36,10 @@ void FrmTimer::load() {
     biorhythm::loadBirth(desktop().files, record().bio);
     record().options.readAtStart();
     process_.windows.touch(firstModule(record().options.leerModuloInicial()), process_);
+    QTimer::singleShot(untilFirstWindowStandsMs, this, &FrmTimer::runStartupAlert);
+}
+
+void FrmTimer::runStartupAlert() {
     record().alerts.startupAlert = true;
     runAlerts();
     record().alerts.startupAlert = false;

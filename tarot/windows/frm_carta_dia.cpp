@@ -160,9 +160,10 @@ void FrmCartaDia::loadBirth() {
     biorhythm::loadBirth(desktop().files, record().bio);
     if (biorhythm::birthDateIsSet(record().bio)) return;
     record().alerts.alertText = welcome;
-    platform::Sounds& sounds = desktop().sounds; // the slide lets events run, the end of this window among them
-    if (process().notification) process().notification->slideUp(std::string(welcome));
-    sounds.playWav("Url.wav");
+    QTimer::singleShot(isVisible() ? 0 : shell::untilFirstWindowStandsMs, this, [&process = process()] {
+        if (process.notification) process.notification->show(std::string(welcome));
+        process.desktop.sounds.playWav("Url.wav");
+    });
 }
 
 void FrmCartaDia::DrawBioMedia() {

@@ -93,7 +93,7 @@ struct SoundOnDisk : testing::Test {
 
 TEST_F(SoundOnDisk, PlaysEachWaveSoundOnce) {
     const DiskFiles files({VELMORIAX_DATA_DIR, VELMORIAX_DATA_DIR});
-    Mixer mixer(files);
+    Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
     for (const char* name : {"boop.wav", "Trumpet.wav", "Url.wav"}) {
         fs::remove(samples);
         mixer.playWav(name);
@@ -110,7 +110,7 @@ TEST_F(SoundOnDisk, PlaysEachWaveSoundOnce) {
 
 TEST_F(SoundOnDisk, PlaysTheSuppliedSongUntilItIsSwitchedOff) {
     const DiskFiles files({VELMORIAX_DATA_DIR, VELMORIAX_DATA_DIR});
-    Mixer mixer(files);
+    Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
     const int device = mixer.open(files.applicationDirectory() + "\\Are You Lonesome Tonight.mid");
     ASSERT_NE(device, 0);
     mixer.play(device);
@@ -125,7 +125,7 @@ TEST_F(SoundOnDisk, PlaysTheSuppliedSongUntilItIsSwitchedOff) {
 
 TEST_F(SoundOnDisk, GoesRoundWhenTheSongHasEnded) {
     const DiskFiles files({folder, folder});
-    Mixer mixer(files);
+    Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
     test::FakeEvents events;
     test::FakeFiles memory;
     shell::OptionsStore options(memory);
@@ -156,7 +156,7 @@ TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutASong) {
         {song("huge.mid", shortSong() + std::string(5U << 20U, '\0')), "larger than any song"},
     };
     const DiskFiles files({folder, folder});
-    Mixer mixer(files);
+    Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
     for (const auto& [path, why] : cases) {
         fs::remove(samples);
         const int device = openQuickly(mixer, path);
@@ -178,7 +178,7 @@ TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutADeviceOrASoundFont) {
         const std::string kept = before ? before : "";
         ::setenv(variable, value, 1);
         const DiskFiles files({folder, folder});
-        Mixer mixer(files);
+        Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
         const int device = openQuickly(mixer, path);
         EXPECT_TRUE(comesTrue([&] { return mixer.mode(device) == Mode::none; })) << variable;
         ::setenv(variable, kept.c_str(), 1);
@@ -188,7 +188,7 @@ TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutADeviceOrASoundFont) {
 TEST_F(SoundOnDisk, EndsCleanlyWhileASongIsLoaded) {
     const DiskFiles files({VELMORIAX_DATA_DIR, VELMORIAX_DATA_DIR});
     for (const auto pause : {0ms, 5ms, 40ms, 120ms}) {
-        Mixer mixer(files);
+        Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
         const int device = mixer.open(files.applicationDirectory() + "\\Are You Lonesome Tonight.mid");
         mixer.play(device);
         mixer.stop(device);

@@ -194,6 +194,9 @@ public:
         texts.push_back(text);
         open = opens;
     }
+    void show(const std::string& text) override {
+        if (!open) slideUp(text);
+    }
     void slideDown() override { open = false; }
     void close() override { open = false; }
     bool isOpen() const override { return open; }

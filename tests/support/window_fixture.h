@@ -76,8 +76,19 @@ protected:
     FakeNotification notification;
     FakeTaskBar taskBar;
     desktop::DesktopTray tray{QIcon()};
-    shell::DesktopServices services{clock, zone,      files,  sounds, media, opener,
-                                    boxes, autostart, events, random, tray,  taskBar};
+    shell::DesktopServices services{clock,
+                                    zone,
+                                    files,
+                                    sounds,
+                                    media,
+                                    opener,
+                                    boxes,
+                                    autostart,
+                                    events,
+                                    random,
+                                    tray,
+                                    taskBar,
+                                    VELMORIAX_LIBRARY_DIR};
     shell::ProcessRecord record{files};
     shell::WindowRegistry windows;
     shell::Process process{record, services, windows};

@@ -12,7 +12,7 @@ TEST_F(Hub, StartsWithAnAlertAndRunsTheNextAfterHalfAnHour) {
     option(key::nivelAlertas.data(), "Only actual situation");
     start();
     EXPECT_TRUE(files.has("\\biofinal.dat")) << "files of a first start come into being";
-    ASSERT_EQ(notification.texts.size(), 1U);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !notification.texts.empty(); })) << "when the first window stands";
     EXPECT_TRUE(notification.texts[0].starts_with("Physical: "));
     EXPECT_FALSE(record.alerts.startupAlert);
 
