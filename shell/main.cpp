@@ -47,11 +47,11 @@ void nameApplication() {
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
-/// A picture whose size is told is read when it is drawn, not here.
+/// The format is told, so that the readers of other formats are not loaded only to be asked.
 QIcon programIcon() {
     QIcon icon;
     for (const int size : {16, 22, 24, 32, 48, 64})
-        icon.addFile(QStringLiteral(":/icons/velmoriax-%1.png").arg(size), {size, size});
+        icon.addPixmap(QPixmap(QStringLiteral(":/icons/velmoriax-%1.png").arg(size), "PNG"));
     return icon;
 }
 
@@ -143,8 +143,11 @@ int main(int argc, char** argv) {
     };
     const desktop::ExitSignals exitSignals(exitLikeTheMenu);
     followSession(application, exitLikeTheMenu);
-    // Inside the event loop, like all that follows: the end may be asked for while the first windows still load.
-    QMetaObject::invokeMethod(
-        &application, [&hub] { hub.load(); }, Qt::QueuedConnection);
-    return QApplication::exec();
+    try {
+        hub.load();
+    } catch (const base::RunTimeError& error) {
+        fatalBox.stop(error);
+    }
+    // The end may have been asked for while the first window still loaded, with no event loop to leave.
+    return record.shell.closingAll ? EXIT_SUCCESS : QApplication::exec();
 }
