@@ -32,6 +32,7 @@ CtxSysTray::CtxSysTray(Process& process, QMenu& popup) : process_(process), popu
     connect(&tray, &DesktopTray::leftDoubleClicked, this, [this] { clicked(leftButton, true); });
     connect(&tray, &DesktopTray::rightClicked, this, [this] { clicked(rightButton, false); });
     connect(&tray, &DesktopTray::trayTaken, this, &CtxSysTray::followTipText);
+    TimerTooltip_.setObjectName(QStringLiteral("TimerTooltip"));
     TimerTooltip_.setInterval(TipWatch::tickMs);
     connect(&TimerTooltip_, &QTimer::timeout, this, &CtxSysTray::tickTooltip);
     textTimer_.setInterval(textRefreshMs);

@@ -70,11 +70,11 @@ TipLines FrmTimer::tipLines() {
     TipLines lines;
     tipcartadia(record().agent, base::civilDateOf(now), files.applicationDirectory(),
                 record().options.holders.tipocartas, record().cards);
-    lines.card = record().agent.tipCard;
-    lines.sign = sky::agent::tipsignzodiac({files, desktop().zone}, now, record().sky);
+    lines.tipCard = record().agent.tipCard;
+    lines.tipSign = sky::agent::tipsignzodiac({files, desktop().zone}, now, record().sky);
     biorhythm::biotip(files, record().bio, record().alerts, now);
-    lines.bio = record().alerts.bioTipText;
-    lines.moon =
+    lines.bioTipText = record().alerts.bioTipText;
+    lines.tipMoon =
         sky::lunatip(sky::MoonEngine(desktop().events), sky::localToUniversal(now, desktop().zone), record().sky);
     return lines;
 }

@@ -152,6 +152,7 @@ void ModuleWindow::tellMissingTray() {
 }
 
 void ModuleWindow::unload() {
+    beforeClose();
     if (!unloadForReal_) return hideToTray();
     const bool soundOn = record().options.holders.bgSound == "SiBgSound";
     if (!record().shell.closingAll && soundOn) desktop().sounds.playWav("boop.wav");
@@ -223,6 +224,7 @@ void ModuleWindow::ownCommand(std::string_view) {}
 void ModuleWindow::buildNavigation() {
     const ModuleNavigation& navigation = navigationOf(module_);
     for (const ButtonRow& row : navigation.buttons) connectButton(row);
+    iconMenu_.setObjectName(text(navigation.iconMenu.name));
     addEntries(&iconMenu_, navigation.iconMenu);
     for (const Menu& table : navigation.mainMenus) {
         QMenu* menu = menuBar()->addMenu(text(table.caption));

@@ -57,6 +57,7 @@ protected:
     virtual void beforeOptions() {}                  ///< runs ahead of everything else in the load routine
     virtual void ownLoad() = 0;                      ///< the module's own work
     virtual void ownCommand(std::string_view name);  ///< a menu entry that is the module's own business
+    virtual void beforeClose() {}                    ///< the window closes, for good or into the tray
     virtual void onHidden() {}                       ///< the window was hidden by the user
     virtual void onMinimised(bool /*toSystray*/) {}  ///< the window was minimised
     virtual void onUnload() {}                       ///< a true unload, before it goes through

@@ -70,7 +70,7 @@ void FrmCalendar::connectControls() {
 
 void FrmCalendar::ownLoad() {
     ui_->Calendar1->setSelectedDate(toDate(base::civilDateOf(desktop().clock.now())));
-    showMajorBack(*ui_->Imgfechasel, desktop().files);
+    showOwnBack(*ui_->Imgfechasel);
     ui_->Calendar1->setFocus();
 }
 

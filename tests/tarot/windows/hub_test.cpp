@@ -40,17 +40,17 @@ TEST_F(Hub, TheTipWorksOutACardADayWithOrWithoutAWindow) {
     option(key::moduloInicial.data(), "Another Day...");
     start();
     const TipLines lines = process.tips->tipLines();
-    EXPECT_EQ(lines.card, "Card of Day: XVIII. The Moon");
-    EXPECT_EQ(lines.sign, "Zodiac Sign: Scorpio");
-    EXPECT_TRUE(lines.bio.starts_with("Biorhythms (avg.): "));
-    EXPECT_EQ(lines.moon, "Moon Phase(illum.): 31.47 % (>)");
+    EXPECT_EQ(lines.tipCard, "Card of Day: XVIII. The Moon");
+    EXPECT_EQ(lines.tipSign, "Zodiac Sign: Scorpio");
+    EXPECT_TRUE(lines.bioTipText.starts_with("Biorhythms (avg.): "));
+    EXPECT_EQ(lines.tipMoon, "Moon Phase(illum.): 31.47 % (>)");
 
     record.cards.currentCard = 3;
     clock.set({2026, 11, 15}, {23, 59, 59});
     process.tips->tipLines();
     EXPECT_EQ(record.cards.currentCard, 3) << "no card was drawn a second time";
     clock.set({2026, 11, 16}, {0, 0, 0});
-    EXPECT_EQ(process.tips->tipLines().card, "Card of Day: XIX. The Sun");
+    EXPECT_EQ(process.tips->tipLines().tipCard, "Card of Day: XIX. The Sun");
 }
 
 TEST_F(Hub, LivesWithoutANotificationAndWithAClockThatIsSetBack) {
