@@ -130,7 +130,7 @@ int main(int argc, char** argv) {
                                     autostart, events, random, tray,  panel, libraryFolder};
 
     shell::ProcessRecord record(files);
-    shell::WindowRegistry windows;
+    shell::WindowRegistry windows(events);
     Process process{record, services, windows};
     addWindows(windows);
     const auto notification = shell::makeNotification(process);

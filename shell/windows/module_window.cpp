@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
-#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 
@@ -55,9 +54,8 @@ void ModuleWindow::load() {
     record().options.readAtModuleLoad(module_ == Module::cardOfDay);
     const bool tooltipsOff = record().options.holders.tooltips == "ToolTips off";
     if (!isRefresh()) tray_.AddIconToSystray(tooltipsOff ? programName : std::string_view{});
-    const QPointer<ModuleWindow> self(this);
     ownLoad();
-    if (self) decideShowing(); // events may have run inside, the program's exit among them
+    if (isLoaded()) decideShowing(); // events may have run inside, the program's exit among them
     flags.viewLoading = false;
 }
 
@@ -92,7 +90,12 @@ void ModuleWindow::handOverTo(Module target) {
     unload();
 }
 
+bool ModuleWindow::isLoaded() const {
+    return process_.windows.isLoaded(*this);
+}
+
 void ModuleWindow::showNormalState() {
+    if (!isLoaded()) return;
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
     show();
     raise();

@@ -45,6 +45,9 @@ public:
     /// Hides to the tray, or to the taskbar when there is no tray to come back from.
     void hideToTray();
 
+    /// False once the window was unloaded: what let events run inside it is to touch nothing more.
+    bool isLoaded() const;
+
     CtxSysTray& ctxSysTray1() { return tray_; }
 
     /// The action of a menu entry by its control name; null when there is none. The popup's entries come first.

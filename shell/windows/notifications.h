@@ -11,8 +11,8 @@ namespace velmoriax::shell {
 
 class Notif;
 
-/// How long what is to be told at the start waits, in milliseconds: the slide would hold up the first window, which is to
-/// stand before anything slides over it.
+/// How long what is to be told at the start waits, in milliseconds: the slide would hold up the first window, which is
+/// to stand before anything slides over it.
 constexpr int untilFirstWindowStandsMs = 250;
 
 /// Tells through the window `Notif`.

@@ -218,11 +218,15 @@ public:
 class FakeEvents : public platform::PendingEvents {
 public:
     int runs = 0;
+    int depth = 0;
     std::function<void()> whatRuns;
     void letRun() override {
         ++runs;
+        ++depth;
         if (whatRuns) whatRuns();
+        --depth;
     }
+    bool areRunning() const override { return depth > 0; }
 };
 
 class FakeTaskBar : public platform::TaskBar {

@@ -40,6 +40,11 @@ inline std::string pictureBytes(QRgb firstPixel) {
     return bytes.toStdString();
 }
 
+/// The first pixel of the back that is part of the reading windows.
+inline QRgb ownBack() {
+    return QImage(QStringLiteral(":/tarot/card_back.jpg")).pixel(0, 0);
+}
+
 class WindowFixture : public testing::Test {
 protected:
     WindowFixture() { process.notification = &notification; }
@@ -90,7 +95,7 @@ protected:
                                     taskBar,
                                     VELMORIAX_LIBRARY_DIR};
     shell::ProcessRecord record{files};
-    shell::WindowRegistry windows;
+    shell::WindowRegistry windows{events};
     shell::Process process{record, services, windows};
 };
 

@@ -30,7 +30,7 @@ TEST_F(AnotherDay, NothingIsWorkedOutBeforeADayIsPicked) {
     calendar.showNextMonth();
     QTest::keyClick(calendar.findChild<QWidget*>("qt_calendar_calendarview"), Qt::Key_Right);
     EXPECT_TRUE(dateLine().isEmpty() && textOf(window, "LabelZod").isEmpty());
-    EXPECT_EQ(onShow(window, "Imgfechasel"), 0xffff0000) << "the card lies face down";
+    EXPECT_EQ(onShow(window, "Imgfechasel"), test::ownBack()) << "the card lies face down";
     EXPECT_FALSE(control<QLabel>(window, "LabelFase").isVisible());
     Q_EMIT control<shell::PictureBox>(window, "Imgfechasel").clicked();
     EXPECT_TRUE(boxes.shown.empty());

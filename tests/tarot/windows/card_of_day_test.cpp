@@ -176,6 +176,17 @@ TEST_F(CardOfDay, TheMoonTellsItsPhasesWhileTheMouseRestsOnIt) {
     move(moon, {5, 5}, 5);
     window.hideToTray();
     EXPECT_EQ(moonDetails(), nullptr);
+
+    events.whatRuns = [&] {
+        if (!moonDetails()) return;
+        move(moon, {5, -1}); // the mouse leaves while the phases are searched
+        QCoreApplication::processEvents();
+    };
+    window.showNormalState();
+    move(moon, {5, 5}, 5);
+    EXPECT_EQ(moonDetails(), nullptr);
+    for (const QWidget* top : QApplication::topLevelWidgets())
+        EXPECT_FALSE(top->inherits("velmoriax::sky::FrmMoonPhase") && top->isVisible());
 }
 
 TEST_F(CardOfDay, WelcomesAtEachLoadWhileNoBirthDateIsSet) {

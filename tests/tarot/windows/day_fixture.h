@@ -22,7 +22,6 @@ inline constexpr QPoint moonMark{2, 3};
 /// The hub, the two windows of a day and the Moon, with pictures that tell their number in blue, on November 15, 2026.
 struct DayFixture : WindowFixture {
     DayFixture() {
-        files.at("\\amenores\\reverso2.jpg") = pictureBytes(0xffff0000);
         for (int card = 1; card <= tarot::majorCards; ++card)
             files.at("\\imagenes\\" + tarot::majorPictureFile(card)) = pictureBytes(numbered(card));
         for (int moon = 0; moon <= 30; ++moon)
