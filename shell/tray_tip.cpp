@@ -21,7 +21,8 @@ std::string tipDateLine(base::CivilDate today) {
 
 std::string joinedTipLines(const TipLines& lines) {
     std::string text = lines.tipCard;
-    for (const std::string* line : {&lines.tipSign, &lines.bioTipText, &lines.tipMoon}) text.append(lineBreak).append(*line);
+    for (const std::string* line : {&lines.tipSign, &lines.bioTipText, &lines.tipMoon})
+        text.append(lineBreak).append(*line);
     return text;
 }
 
