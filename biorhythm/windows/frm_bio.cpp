@@ -9,6 +9,7 @@
 #include "biorhythm/stepper_dates.h"
 #include "biorhythm/windows/bio_colours.h"
 #include "biorhythm/windows/date_steppers.h"
+#include "biorhythm/windows/frm_profiles.h"
 #include "biorhythm/windows/qt_values.h"
 #include "shell/windows/look.h"
 #include "shell/windows/notifications.h"
@@ -351,7 +352,9 @@ void frmBio::saveProfile() {
 }
 
 void frmBio::editProfiles() {
-    process().windows.touch("FrmProfiles", process()).showNormalState();
+    auto& list = static_cast<FrmProfiles&>(process().windows.touch("FrmProfiles", process()));
+    list.ListaPerfiles(); // it may stand open from before
+    list.showNormalState();
 }
 
 void frmBio::compareProfiles() {

@@ -51,7 +51,7 @@ TEST(Compatibility, NamesTheLevelByItsLowerBound) {
         Compatibility record;
         record.levelWord = "as before";
         record.meanPercent = row.mean;
-        niveles(record);
+        Niveles(record);
         EXPECT_EQ(record.levelWord, row.word) << row.mean;
     }
 }
