@@ -47,8 +47,8 @@ int notifGone(const ScreenMeasures& screen, int windowHeight);
 /// of the screen.
 bool personalTipMayStand(const ScreenMeasures& screen, int pointerY, bool taskBarAtBottom);
 
-/// Centred over the pointer, and moved aside as far as it takes to be seen whole, since the icon is often near a corner,
-/// and to leave a panel at the left or right free: over the icon the pointer would take it away at once.
+/// Centred over the pointer, and moved aside as far as it takes to be seen whole, since the icon is often near a
+/// corner, and to leave a panel at the left or right free: over the icon the pointer would take it away at once.
 int personalTipLeft(const ScreenMeasures& screen, int windowWidth, int pointerX);
 
 /// 2150 twips above the bottom edge of the screen, and higher only where a window that a large font has made tall, or
