@@ -15,6 +15,7 @@
 #include "platform/sounds.h"
 #include "platform/task_bar.h"
 #include "platform/time_zone.h"
+#include "support/table.h"
 
 #include <deque>
 #include <functional>
