@@ -3,10 +3,7 @@
 #include "sky/moon_pictures.h"
 #include "support/fakes.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
-#include <map>
 
 namespace velmoriax::sky {
 namespace {
@@ -17,8 +14,7 @@ using enum MoonPhase;
 constexpr double second = 1.0 / 86400;
 constexpr DateValue longLunationsEnd = 36531.7597222222; ///< 2000-01-06 18:14, seconds before a new moon
 
-class MoonEngineTest : public testing::Test {
-protected:
+struct MoonEngineTest : testing::Test {
     test::FakeEvents events;
     MoonEngine engine{events};
 
@@ -34,21 +30,24 @@ protected:
 };
 
 TEST(JulianDay, KeepsTheFormOfTheDateValue) {
+    const test::Table<DateValue, JulianDay, const char*> rows{
+        {-2.75, 2415017.25, "days count down, the time of day still counts up"},
+        {base::dateValueOf({1582, 10, 15}, {6, 0, 0}), 2299160.75, "the day after the reform"},
+        {-115959, 2299069.5, "ten days are added before the reform"},
+        {2, 2415020.5, ""},
+    };
+    for (const auto& [date, julianDay, why] : rows) {
+        EXPECT_DOUBLE_EQ(julianDayFromDate(date), julianDay) << why;
+        EXPECT_DOUBLE_EQ(dateFromJulianDay(julianDay), date) << why;
+    }
     EXPECT_DOUBLE_EQ(julianDayFromDate(0), 2415018.5);
-    EXPECT_DOUBLE_EQ(julianDayFromDate(-2.75), 2415017.25);
-    EXPECT_DOUBLE_EQ(dateFromJulianDay(2415017.25), -2.75);
-    EXPECT_DOUBLE_EQ(julianDayFromDate(base::dateValueOf({1582, 10, 15}, {6, 0, 0})), 2299160.75);
-    EXPECT_DOUBLE_EQ(julianDayFromDate(-115959), 2299069.5) << "ten days are added before the reform";
-    EXPECT_DOUBLE_EQ(dateFromJulianDay(2299069.5), -115959);
     EXPECT_DOUBLE_EQ(dateFromJulianDay(2415019.0), -1.5) << "the threshold lies two days late";
-    EXPECT_DOUBLE_EQ(dateFromJulianDay(2415020.5), 2);
-    EXPECT_EQ(dateFromJulianDay(1757593.5), 0) << "out of range";
-    EXPECT_EQ(dateFromJulianDay(5373484.5), 0) << "out of range";
+    for (const JulianDay outside : {1757593.5, 5373484.5}) EXPECT_EQ(dateFromJulianDay(outside), 0);
 }
 
 TEST(MoonPhaseSeries, FoldsTheLastHalfDegreeToTheWrongSide) {
     // A tie such as 359.5 goes to the even 360.
-    for (const auto& [x, folded] : std::map<double, double>{
+    for (const auto& [x, folded] : test::Table<double, double>{
              {359.7, 0.3}, {719.6, 0.4}, {-359.7, -0.3}, {-10.4, -10.4}, {359.4, 359.4}, {359.5, 0.5}})
         EXPECT_NEAR(truncatedModulo(x, 360), folded, 1e-9) << x;
 }
@@ -58,16 +57,13 @@ TEST_F(MoonEngineTest, GivesTheKnownValues) {
     EXPECT_NEAR(moonPhaseJulianDay(1285, firstQuarter), 2461361.99235, 5e-6);
     EXPECT_NEAR(moonPhaseJulianDay(1285, fullMoon), 2461369.12130, 5e-6);
     EXPECT_NEAR(moonPhaseJulianDay(1285, lastQuarter), 2461375.75684, 5e-6);
-    struct Row {
-        DateValue date;
-        std::int32_t lunation;
-        double age, angle, angleTolerance;
-    };
-    for (const Row& row : {Row{46341.5, 1285, 6.20612, 75.657, 5e-4}, Row{38518, 1020, 8.08594, 98.574, 5e-4},
-                           Row{longLunationsEnd, 952, 29.82033, 363.53, 5e-3}}) {
-        EXPECT_EQ(engine.lunationOfDate(row.date), row.lunation);
-        EXPECT_NEAR(engine.moonAgeDays(row.date), row.age, 5e-6);
-        EXPECT_NEAR(engine.moonPhaseAngle(row.date), row.angle, row.angleTolerance);
+    for (const auto& [date, lunation, age, angle, tolerance] :
+         test::Table<DateValue, int, double, double, double>{{46341.5, 1285, 6.20612, 75.657, 5e-4},
+                                                             {38518, 1020, 8.08594, 98.574, 5e-4},
+                                                             {longLunationsEnd, 952, 29.82033, 363.53, 5e-3}}) {
+        EXPECT_EQ(engine.lunationOfDate(date), lunation);
+        EXPECT_NEAR(engine.moonAgeDays(date), age, 5e-6);
+        EXPECT_NEAR(engine.moonPhaseAngle(date), angle, tolerance);
     }
     const DateValue justBefore = dateFromJulianDay(moonPhaseJulianDay(1285, newMoon)) - second / 4;
     EXPECT_EQ(engine.lunationOfDate(justBefore), 1285) << "the search looks half a second ahead";
@@ -79,42 +75,33 @@ TEST_F(MoonEngineTest, GivesTheKnownValues) {
 // row a leading argument lies in the last half degree of its turn, and its fold takes nine minutes off.
 TEST_F(MoonEngineTest, AgreesWithAlmanacsAsFarAsItsFoldsAllow) {
     constexpr double minute = 1.0 / 1440;
-    struct Row {
-        MoonPhase phase;
-        base::CivilDate date;
-        base::CivilTime time;
-        double fold;
-    };
-    for (const Row& row :
-         {Row{newMoon, {1977, 2, 18}, {3, 37, 0}, 0}, Row{newMoon, {1999, 8, 11}, {11, 8, 0}, 0},
-          Row{fullMoon, {2001, 1, 9}, {20, 24, 0}, 0}, Row{newMoon, {2017, 8, 21}, {18, 30, 0}, 0},
-          Row{fullMoon, {2018, 1, 31}, {13, 27, 0}, 0}, Row{newMoon, {2024, 4, 8}, {18, 21, 0}, 0},
-          Row{firstQuarter, {2026, 11, 17}, {11, 48, 0}, 0}, Row{lastQuarter, {2026, 12, 1}, {6, 9, 0}, 0},
-          Row{firstQuarter, {2008, 2, 14}, {3, 33, 0}, -8.9}}) {
-        const DateValue published = base::dateValueOf(row.date, row.time);
-        const JulianDay computed = moonPhaseJulianDay(engine.lunationOfDate(published + 1), row.phase);
-        EXPECT_NEAR((computed - julianDayFromDate(published)) / minute, row.fold, 2) << row.date.year;
+    const test::Table<MoonPhase, base::CivilDate, base::CivilTime, double> rows{
+        {newMoon, {1977, 2, 18}, {3, 37, 0}, 0},        {newMoon, {1999, 8, 11}, {11, 8, 0}, 0},
+        {fullMoon, {2001, 1, 9}, {20, 24, 0}, 0},       {newMoon, {2017, 8, 21}, {18, 30, 0}, 0},
+        {fullMoon, {2018, 1, 31}, {13, 27, 0}, 0},      {newMoon, {2024, 4, 8}, {18, 21, 0}, 0},
+        {firstQuarter, {2026, 11, 17}, {11, 48, 0}, 0}, {lastQuarter, {2026, 12, 1}, {6, 9, 0}, 0},
+        {firstQuarter, {2008, 2, 14}, {3, 33, 0}, -8.9}};
+    for (const auto& [phase, date, time, fold] : rows) {
+        const DateValue published = base::dateValueOf(date, time);
+        const JulianDay computed = moonPhaseJulianDay(engine.lunationOfDate(published + 1), phase);
+        EXPECT_NEAR((computed - julianDayFromDate(published)) / minute, fold, 2) << date.year;
     }
 }
 
 TEST_F(MoonEngineTest, PhasesOfALunationStandInOrderAndTheNamesChangeAtThem) {
-    struct Change {
-        MoonPhase phase;
-        const char *before, *since;
-    };
-    constexpr std::array<Change, 4> changes{{{newMoon, "Wanning Crescent", "Waxing Crescent"},
-                                             {firstQuarter, "Waxing Crescent", "Waxing Gibbous"},
-                                             {fullMoon, "Waxing Gibbous", "Waning Gibbous"},
-                                             {lastQuarter, "Waning Gibbous", "Wanning Crescent"}}};
+    const test::Table<MoonPhase, std::string, std::string> changes{{newMoon, "Wanning Crescent", "Waxing Crescent"},
+                                                                   {firstQuarter, "Waxing Crescent", "Waxing Gibbous"},
+                                                                   {fullMoon, "Waxing Gibbous", "Waning Gibbous"},
+                                                                   {lastQuarter, "Waning Gibbous", "Wanning Crescent"}};
     overCenturies([&](DateValue date) {
         const std::int32_t lunation = engine.lunationOfDate(date);
         JulianDay last = moonPhaseJulianDay(lunation - 1, lastQuarter);
-        for (const Change& change : changes) {
-            const JulianDay instant = moonPhaseJulianDay(lunation, change.phase);
+        for (const auto& [phase, before, since] : changes) {
+            const JulianDay instant = moonPhaseJulianDay(lunation, phase);
             EXPECT_TRUE(instant - last > 6.3 && instant - last < 8.5) << date;
             const DateValue exact = dateFromJulianDay(instant);
-            EXPECT_EQ(engine.moonPhaseName(moved(exact, -second)), change.before) << date;
-            EXPECT_EQ(engine.moonPhaseName(exact), change.since) << date;
+            EXPECT_EQ(engine.moonPhaseName(moved(exact, -second)), before) << date;
+            EXPECT_EQ(engine.moonPhaseName(exact), since) << date;
             last = instant;
         }
     });
@@ -164,20 +151,17 @@ TEST_F(MoonEngineTest, SurvivesBeingAskedAgainInsideItsSearch) {
 }
 
 TEST(MoonPictures, FollowTheRuleOfTheirWindow) {
-    using enum MoonPictureRule;
-    struct Row {
-        float angle;
-        const char *cardOfDay, *anotherDay, *why;
-    };
-    for (const Row& row : {Row{0, "moon0.gif", "moon0.gif", "new moon"},
-                           Row{12, "moon1.gif", "moon0.gif", "the upper edge belongs to the next picture or to this"},
-                           Row{13, "moon1.gif", "moon0.gif", "6.5 goes to the even 6"},
-                           Row{13.1F, "moon1.gif", "moon1.gif", "above the tie"},
-                           Row{359, "moon30.gif", "moon29.gif", "179.5 goes to the even 180"},
-                           Row{361, "moon30.gif", "moon29.gif", "180.5 goes to the even 180"},
-                           Row{361.1F, "moon30.gif", "", "no name: the picture that stands is kept"}}) {
-        EXPECT_EQ(moonPictureName(row.angle, cardOfDay), row.cardOfDay) << row.why;
-        EXPECT_EQ(moonPictureName(row.angle, anotherDay), row.anotherDay) << row.why;
+    const test::Table<float, const char*, const char*, const char*> rows{
+        {0, "moon0.gif", "moon0.gif", "new moon"},
+        {12, "moon1.gif", "moon0.gif", "the upper edge belongs to the next picture or to this"},
+        {13, "moon1.gif", "moon0.gif", "6.5 goes to the even 6"},
+        {13.1F, "moon1.gif", "moon1.gif", "above the tie"},
+        {359, "moon30.gif", "moon29.gif", "179.5 goes to the even 180"},
+        {361, "moon30.gif", "moon29.gif", "180.5 goes to the even 180"},
+        {361.1F, "moon30.gif", "", "no name: the picture that stands is kept"}};
+    for (const auto& [angle, cardOfDay, anotherDay, why] : rows) {
+        EXPECT_EQ(moonPictureName(angle, MoonPictureRule::cardOfDay), cardOfDay) << why;
+        EXPECT_EQ(moonPictureName(angle, MoonPictureRule::anotherDay), anotherDay) << why;
     }
 }
 
