@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tarot/ambient_sound.h"
-
 #include "support/fakes.h"
-
-#include <gtest/gtest.h>
+#include "tarot/ambient_sound.h"
 
 namespace velmoriax::tarot {
 namespace {
@@ -23,29 +20,23 @@ struct Ambient : testing::Test {
 };
 
 TEST_F(Ambient, StartsByTheTwoOptions) {
-    struct Case {
-        const char* wanted;
-        const char* song;
-        bool on;
-        std::string plays;
-        const char* why;
+    using Starts = std::vector<std::string>;
+    const test::Table<const char*, const char*, bool, Starts, const char*> rows{
+        {"", "", true, {supplied}, "sound is on by default"},
+        {"yes", "/music/own.mid", true, {"/music/own.mid"}, "the user's own song"},
+        {"nop", "", false, {}, "switched off"},
+        {"Yes", "", false, {}, "words are compared exactly"},
+        {"yes", "/music/gone.mid", true, {}, "the switch stands on over a song that is missing"},
     };
-    const Case cases[]{
-        {"", "", true, supplied, "sound is on by default"},
-        {"yes", "/music/own.mid", true, "/music/own.mid", "the user's own song"},
-        {"nop", "", false, "", "switched off"},
-        {"Yes", "", false, "", "words are compared exactly"},
-        {"yes", "/music/gone.mid", true, "", "the switch stands on over a song that is missing"},
-    };
-    for (const Case& row : cases) {
-        options.setOption(shell::key::soundAmbient, row.wanted);
-        options.setOption(shell::key::songAmbient, row.song);
+    for (const auto& [wanted, song, on, starts, why] : rows) {
+        options.setOption(shell::key::soundAmbient, wanted);
+        options.setOption(shell::key::songAmbient, song);
         media.starts.clear();
         sound = {7, "", true};
-        EXPECT_EQ(startAmbient(sound, services), row.on) << row.why;
-        EXPECT_EQ(sound.timerOn, row.on) << row.why;
-        EXPECT_EQ(media.starts, row.plays.empty() ? std::vector<std::string>{} : std::vector{row.plays}) << row.why;
-        if (row.on) EXPECT_EQ(sound.midiDeviceId != 0, !row.plays.empty()) << row.why;
+        EXPECT_EQ(startAmbient(sound, services), on) << why;
+        EXPECT_EQ(sound.timerOn, on) << why;
+        EXPECT_EQ(media.starts, starts) << why;
+        if (on) EXPECT_EQ(sound.midiDeviceId != 0, !starts.empty()) << why;
     }
 }
 
