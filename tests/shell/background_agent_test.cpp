@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/background_agent.h"
-
-#include <gtest/gtest.h>
+#include "support/table.h"
 
 namespace velmoriax::shell {
 namespace {
 
-class BackgroundAgentTest : public testing::Test {
-protected:
-    void start(base::CivilTime time) { startUptime(agent_, base::dateValueOf({2026, 11, 15}, time)); }
+struct BackgroundAgent : testing::Test {
+    void start(base::CivilTime time) { startUptime(agent, base::dateValueOf({2026, 11, 15}, time)); }
 
     /// Ticks once a second from the moment on.
     void run(base::CivilDate date, base::CivilTime from, int seconds) {
@@ -17,36 +15,33 @@ protected:
     }
     void tick(base::CivilDate date, int second) {
         const base::CivilDate day = base::civilDateOfDay(base::dayNumber(date) + second / 86400);
-        timeUpTick(agent_, base::dateValueOf(day, {second / 3600 % 24, second / 60 % 60, second % 60}), false);
+        timeUpTick(agent, base::dateValueOf(day, {second / 3600 % 24, second / 60 % 60, second % 60}), false);
     }
 
-    AgentRecord agent_;
+    AgentRecord agent;
 };
 
-TEST_F(BackgroundAgentTest, UptimeGoesOnOverMidnightAndDaysCount) {
+TEST_F(BackgroundAgent, UptimeGoesOnOverMidnightAndDaysCount) {
     start({23, 0, 0});
     run({2026, 11, 15}, {23, 0, 0}, 3601);
-    EXPECT_EQ(agent_.LblTime, "0:00:00");
-    EXPECT_EQ(agent_.LblUptime, "22:00:01") << "the text of a negative time in the very tick of midnight";
+    EXPECT_EQ(agent.LblTime, "0:00:00");
+    EXPECT_EQ(agent.LblUptime, "22:00:01") << "the text of a negative time in the very tick of midnight";
     run({2026, 11, 16}, {0, 0, 1}, 1);
-    EXPECT_EQ(agent_.LblUptime, "1:00:00");
-    EXPECT_EQ(agent_.LblDias, "0d ");
+    EXPECT_EQ(agent.LblUptime, "1:00:00");
+    EXPECT_EQ(agent.LblDias, "0d ");
     run({2026, 11, 16}, {0, 0, 2}, 23 * 3600);
-    EXPECT_EQ(agent_.LblDias, "1d ");
+    EXPECT_EQ(agent.LblDias, "1d ");
     run({2026, 11, 16}, {23, 0, 2}, 2 * 86400);
-    EXPECT_EQ(agent_.LblDias, "3d ");
+    EXPECT_EQ(agent.LblDias, "3d ");
 }
 
-TEST_F(BackgroundAgentTest, ABusySecondBeforeMidnightLosesTheStretchOfTheDay) {
+TEST_F(BackgroundAgent, ABusySecondBeforeMidnightLosesTheStretchOfTheDay) {
     start({23, 59, 0});
-    tick({2026, 11, 15}, 86398);
-    tick({2026, 11, 15}, 86400);
-    tick({2026, 11, 15}, 86405);
-    EXPECT_EQ(agent_.LblUptime, "0:00:05");
+    for (const int second : {86398, 86400, 86405}) tick({2026, 11, 15}, second);
+    EXPECT_EQ(agent.LblUptime, "0:00:05");
 }
 
-TEST(BackgroundAgent, TheNotificationStandsThirtyTicks) {
-    AgentRecord agent;
+TEST_F(BackgroundAgent, TheNotificationStandsThirtyTicks) {
     const base::DateValue now = 46341.5;
     for (int i = 1; i < 30; ++i) EXPECT_FALSE(timeUpTick(agent, now, true)) << i;
     EXPECT_TRUE(timeUpTick(agent, now, true));
@@ -56,16 +51,14 @@ TEST(BackgroundAgent, TheNotificationStandsThirtyTicks) {
     EXPECT_EQ(agent.notifTicks, 0) << "a count does not go on with the next notification";
 }
 
-TEST(BackgroundAgent, AlertsRunEverySixtiethHalfMinute) {
-    AgentRecord agent;
+TEST_F(BackgroundAgent, AlertsRunEverySixtiethHalfMinute) {
     for (int round = 0; round < 2; ++round) {
         for (int i = 1; i < 60; ++i) EXPECT_FALSE(timerBioTick(agent));
         EXPECT_TRUE(timerBioTick(agent));
     }
 }
 
-TEST(BackgroundAgent, TheCardIsWorkedOutOnceADay) {
-    AgentRecord agent;
+TEST_F(BackgroundAgent, TheCardIsWorkedOutOnceADay) {
     tarot::CardState cards;
     tipcartadia(agent, {2026, 11, 15}, "/home/ann/velmoriax", "marsellaone", cards);
     EXPECT_EQ(agent.tipCard, "Card of Day: XVIII. The Moon");

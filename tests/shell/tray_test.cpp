@@ -5,8 +5,6 @@
 #include "shell/tray_tip.h"
 #include "support/fakes.h"
 
-#include <gtest/gtest.h>
-
 namespace velmoriax::shell {
 namespace {
 
@@ -106,18 +104,17 @@ TEST(TrayTip, IsBuiltOnceFromDatePlanetAndFourLines) {
 }
 
 TEST(TrayTip, AnyOfThreeMarksMeansNoBirthDate) {
-    struct Row {
-        base::CivilDate birth;
-        const char* why;
-    };
+    const test::Table<base::CivilDate, const char*> rows{{{1900, 1, 1}, "the mark itself"},
+                                                         {{1975, 3, 1}, "a real first of March"},
+                                                         {{1975, 1, 14}, "a real January"},
+                                                         {{1900, 3, 14}, "a real 1900"}};
     Lines source;
-    for (const Row& row : {Row{{1900, 1, 1}, "the mark itself"}, Row{{1975, 3, 1}, "a real first of March"},
-                           Row{{1975, 1, 14}, "a real January"}, Row{{1900, 3, 14}, "a real 1900"}}) {
-        EXPECT_EQ(balloonText(row.birth, {2026, 11, 15}, source),
-                  "ToolTps din\xC3\xA1micos cuando se actualice la fecha de nacimiento para los biorritmos!")
-            << row.why;
-        const PersonalTip tip = personalTip(row.birth, {2026, 11, 15}, source);
-        EXPECT_TRUE(tip.date.empty()) << row.why;
+    for (const auto& [birth, why] : rows) {
+        EXPECT_EQ(balloonText(birth, {2026, 11, 15}, source),
+                  "ToolTps dinámicos cuando se actualice la fecha de nacimiento para los biorritmos!")
+            << why;
+        const PersonalTip tip = personalTip(birth, {2026, 11, 15}, source);
+        EXPECT_TRUE(tip.date.empty()) << why;
         EXPECT_EQ(tip.lines, "Dinamic ToolTps \r\nwhen the date of birth \r\nbe updated for the biorhythms!");
     }
     EXPECT_EQ(source.calls, 0) << "no line may be worked out";
@@ -137,17 +134,15 @@ TEST(TaskBarMetrics, ReportAndEdge) {
 }
 
 TEST(PopupPlaces, NotificationTakesItsSizeFromTheLength) {
-    const auto is = [](std::size_t length, NotifBack back, int height) {
-        const NotifSize size = notifSize(length);
-        EXPECT_EQ(size.back, back) << length;
-        EXPECT_EQ(size.height, height) << length;
-    };
-    is(0, NotifBack::small, 120);
-    is(149, NotifBack::small, 120);
-    is(150, NotifBack::middle, 178);
-    is(265, NotifBack::middle, 178);
-    is(266, NotifBack::large, 243);
-    is(600, NotifBack::large, 243);
+    for (const auto& [length, back, height] : test::Table<std::size_t, NotifBack, int>{{0, NotifBack::small, 120},
+                                                                                       {149, NotifBack::small, 120},
+                                                                                       {150, NotifBack::middle, 178},
+                                                                                       {265, NotifBack::middle, 178},
+                                                                                       {266, NotifBack::large, 243},
+                                                                                       {600, NotifBack::large, 243}}) {
+        EXPECT_EQ(notifSize(length).back, back) << length;
+        EXPECT_EQ(notifSize(length).height, height) << length;
+    }
 }
 
 TEST(PopupPlaces, NotificationStandsOnThePanelOrLeavesItsRoomFree) {

@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/notif.h"
-
 #include "shell/windows/notifications.h"
 #include "support/window_fixture.h"
 
-#include <QGuiApplication>
 #include <QLabel>
 #include <QPointer>
 #include <QScreen>
-#include <QToolButton>
 
 namespace velmoriax::shell {
 namespace {
 
 /// Whatever the test wants to happen inside a slide, the events do.
-class NotifTest : public test::WindowFixture {
-protected:
+struct NotifTest : test::WindowFixture {
     SlidingNotification sliding{process};
 
     NotifTest() {
@@ -46,9 +42,7 @@ TEST_F(NotifTest, SlidesUpByItsLengthOnePixelAStepWithEventsBetween) {
 }
 
 TEST_F(NotifTest, LettersCountAndNotBytes) {
-    std::string text;
-    for (int n = 0; n < 149; ++n) text += "\xC3\xA1";
-    sliding.slideUp(text);
+    sliding.slideUp(QString(149, u'á').toStdString());
     EXPECT_EQ(window()->height(), 120);
 }
 
@@ -68,7 +62,7 @@ TEST_F(NotifTest, OneThatStandsSlidesDownInEitherDirectionAndStaysLoaded) {
 
 TEST_F(NotifTest, CloseMarkAndMinimisedModuleTakeItAway) {
     sliding.slideUp("text");
-    window()->findChild<QToolButton*>("Image1")->click();
+    press(*window(), "Image1");
     EXPECT_FALSE(window());
     EXPECT_FALSE(sliding.isOpen());
     closeNotification(process);
@@ -115,16 +109,15 @@ TEST_F(NotifTest, TakenAwayOrEndedInTheMiddleTheSlideStopsAndTheWindowGoes) {
 }
 
 TEST_F(NotifTest, LongestAlertFitsWithoutScrolling) {
-    std::string text =
-        "Your physical cycle begins an ascending phase!\r\nYour intuitive cycle begins a descending phase!";
-    text += "\r\nYour intuitive cycle enter in a critical period and advance toward a passive phase, the intuition "
-            "won't be of great help!\r\nCrossing downward physical cycle to intuitive, intuition will be an allied "
-            "while strength decreases!\r\n---------------------------------------------";
-    text += "\r\nPhysical: -97.53 % (falling)\r\nEmotional: 100.00 % (rising)\r\nIntellectual: -100.00 % (falling)"
-            "\r\nIntuitive: -100.00 % (falling)";
+    const std::string text =
+        "Your physical cycle begins an ascending phase!\r\nYour intuitive cycle begins a descending phase!\r\n"
+        "Your intuitive cycle enter in a critical period and advance toward a passive phase, the intuition won't be of "
+        "great help!\r\nCrossing downward physical cycle to intuitive, intuition will be an allied while strength "
+        "decreases!\r\n---------------------------------------------\r\nPhysical: -97.53 % (falling)\r\nEmotional: "
+        "100.00 % (rising)\r\nIntellectual: -100.00 % (falling)\r\nIntuitive: -100.00 % (falling)";
     sliding.slideUp(text);
-    const auto* words = window()->findChild<QLabel*>("mTexto");
-    EXPECT_LE(words->heightForWidth(words->width()), words->parentWidget()->height());
+    const auto& words = control<QLabel>(*window(), "mTexto");
+    EXPECT_LE(words.heightForWidth(words.width()), words.parentWidget()->height());
     EXPECT_FALSE(window()->isActiveWindow());
 }
 

@@ -2,21 +2,16 @@
 #include "shell/windows/frm_about.h"
 #include "shell/windows/frm_options.h"
 #include "shell/windows/link_label.h"
+#include "support/bytes_of.h"
 #include "support/window_fixture.h"
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
-#include <QTest>
-
-#include <fstream>
-#include <iterator>
 
 namespace velmoriax::shell {
 namespace {
 
-class SecondaryWindowsTest : public test::WindowFixture {
-protected:
+struct SecondaryWindowsTest : test::WindowFixture {
     template<typename Window>
     Window& touch(const std::string& name) {
         windows.addSecondary(name, [](Process& p) -> SecondaryWindow* { return new Window(p); });
@@ -34,13 +29,7 @@ protected:
 TEST_F(SecondaryWindowsTest, EveryOptionStandsUnderItsCaptionAndObeysTheMouse) {
     const FrmOptions& window = touch<FrmOptions>("FrmOptions");
     EXPECT_EQ(window.windowTitle(), "Options");
-    struct Row {
-        const char* name;
-        const char* caption;
-        std::string_view key;
-        const char* value;
-    };
-    const Row rows[] = {
+    const test::Table<const char*, const char*, std::string_view, const char*> rows{
         {"CheckWin", "With Windows", key::iniciarConWindows, "True"},
         {"CheckMini", "Minimized", key::iniciarMinimizado, "True"},
         {"OptReal", "Real", key::tirada, "real"},
@@ -60,25 +49,21 @@ TEST_F(SecondaryWindowsTest, EveryOptionStandsUnderItsCaptionAndObeysTheMouse) {
         {"CheckTooltips", "Deactivate Tooltips", key::desactivarTooltips, "ToolTips off"},
     };
     taskBar.where = platform::TaskBarPosition{0, 770, 1280, 800, platform::TaskBarPosition::bottomEdge};
-    for (const Row& row : rows) {
-        EXPECT_EQ(control<QAbstractButton>(window, row.name).text().remove('&'), row.caption);
-        click(window, row.name);
-        EXPECT_EQ(record.options.option(row.key), row.value) << row.name;
+    for (const auto& [name, caption, option, value] : rows) {
+        EXPECT_EQ(control<QAbstractButton>(window, name).text().remove('&'), caption);
+        click(window, name);
+        EXPECT_EQ(record.options.option(option), value) << name;
     }
     EXPECT_FALSE(control<QWidget>(window, "OptionXP").isEnabled()) << "the tips are off now";
 }
 
-TEST_F(SecondaryWindowsTest, TheListsFollowTheKeyboard) {
+TEST_F(SecondaryWindowsTest, TheListsFollowTheKeyboardAndARefusedChoiceJumpsBack) {
     const FrmOptions& window = touch<FrmOptions>("FrmOptions");
     auto& levels = control<QComboBox>(window, "ComboBio");
     EXPECT_EQ(levels.count(), 9);
     EXPECT_EQ(control<QComboBox>(window, "Combolist").count(), 6);
     QTest::keyClick(&levels, Qt::Key_End);
     EXPECT_EQ(record.options.option(key::nivelAlertas), "Maximum (c. phase + critical + Crossings + actual s.)");
-}
-
-TEST_F(SecondaryWindowsTest, ARefusedChoiceJumpsBackToTheClassicStyle) {
-    const FrmOptions& window = touch<FrmOptions>("FrmOptions");
     taskBar.where = platform::TaskBarPosition{0, 0, 1280, 30, platform::TaskBarPosition::topEdge};
     click(window, "OptionPersonal");
     EXPECT_EQ(boxes.shown.size(), 1U);
@@ -95,32 +80,25 @@ TEST_F(SecondaryWindowsTest, OnlyTheButtonOfTheOptionsGivesTheTrayTipFree) {
     EXPECT_FALSE(record.shell.trayBusy);
 }
 
-TEST_F(SecondaryWindowsTest, MnemonicsAreUnique) {
-    std::map<QChar, QString> taken;
+TEST_F(SecondaryWindowsTest, EveryOptionHasAMnemonicOfItsOwn) {
     const FrmOptions& window = touch<FrmOptions>("FrmOptions");
-    const auto take = [&](const QString& caption) {
-        const auto at = caption.indexOf('&');
-        ASSERT_GE(at, 0) << caption.toStdString();
-        const QChar letter = caption.at(at + 1).toLower();
-        EXPECT_TRUE(taken.emplace(letter, caption).second) << caption.toStdString();
-    };
-    for (const auto* button : window.findChildren<QAbstractButton*>()) take(button->text());
-    for (const auto* label : window.findChildren<QLabel*>()) take(label->text());
+    QStringList letters = mnemonicsOf(window);
+    EXPECT_EQ(letters.size(), window.findChildren<QAbstractButton*>().size() + window.findChildren<QLabel*>().size());
+    EXPECT_EQ(letters.removeDuplicates(), 0);
 }
 
 TEST_F(SecondaryWindowsTest, TheAboutBoxSpeaksFromTheSuppliedFile) {
-    std::ifstream supplied(VELMORIAX_DATA_DIR "/velmoriax.ini", std::ios::binary);
-    files.at("\\velmoriax.ini").assign(std::istreambuf_iterator<char>(supplied), {});
+    files.at("\\velmoriax.ini") = test::bytesOf(VELMORIAX_DATA_DIR "/velmoriax.ini");
     QApplication::setApplicationDisplayName("Velmoriax");
     QApplication::setApplicationVersion("1.20.3");
     record.shell.trayBusy = true;
 
     frmAbout& window = touch<frmAbout>("frmAbout");
     EXPECT_EQ(window.windowTitle(), "About Velmoriax");
-    EXPECT_EQ(control<QLabel>(window, "LblTitle").text(), "Velmoriax by ostrabe");
-    EXPECT_EQ(control<QLabel>(window, "lblVersion").text(), "Version: 1.20.3");
-    const QString paragraph = control<QLabel>(window, "lblDescription").text();
-    EXPECT_TRUE(paragraph.startsWith("In the ") && paragraph.endsWith(" Enjoy!")) << paragraph.toStdString();
+    EXPECT_EQ(textOf(window, "LblTitle"), "Velmoriax by ostrabe");
+    EXPECT_EQ(textOf(window, "lblVersion"), "Version: 1.20.3");
+    const std::string paragraph = textOf(window, "lblDescription");
+    EXPECT_TRUE(paragraph.starts_with("In the ") && paragraph.ends_with(" Enjoy!")) << paragraph;
 
     click(window, "CommandInfo");
     click(window, "LblUrl");

@@ -3,7 +3,6 @@
 
 #include "base/western_text.h"
 #include "shell/windows/frm_timer.h"
-#include "shell/windows/picture_box.h"
 #include "sky/windows/frm_moon_phase.h"
 #include "sky/zodiac_tables.h"
 #include "support/window_fixture.h"
@@ -12,9 +11,10 @@
 
 #include <QLabel>
 #include <QMouseEvent>
-#include <QTest>
 
 namespace velmoriax::test {
+
+inline constexpr QRgb cardBack = 0xffff0000;
 
 /// A marked pixel that lies inside the rim which a half turn leaves alone.
 inline constexpr QPoint moonMark{2, 3};
@@ -22,11 +22,11 @@ inline constexpr QPoint moonMark{2, 3};
 /// The hub, the two windows of a day and the Moon, with pictures that tell their number in blue, on November 15, 2026.
 struct DayFixture : WindowFixture {
     DayFixture() {
-        files.at("\\amenores\\reverso2.jpg") = pictureBytes(0xffff0000);
+        files.at("\\amenores\\reverso2.jpg") = pictureBytes(cardBack);
         for (int card = 1; card <= tarot::majorCards; ++card)
             files.at("\\imagenes\\" + tarot::majorPictureFile(card)) = pictureBytes(numbered(card));
         for (int moon = 0; moon <= 30; ++moon)
-            files.at("\\lunagif\\moon" + std::to_string(moon) + ".gif") = moonBytes(moon);
+            files.at("\\lunagif\\moon" + std::to_string(moon) + ".gif") = pictureBytes(numbered(100 + moon), moonMark);
         for (std::size_t sign = 0; sign < 12; ++sign) {
             const std::string name(sky::signFileNames[sign]);
             files.at("\\signos\\" + name + "_sm.gif") = pictureBytes(numbered(int(sign)));
@@ -40,15 +40,6 @@ struct DayFixture : WindowFixture {
     }
 
     static QRgb numbered(int number) { return 0xff000000U + unsigned(number); }
-    static std::string moonBytes(int number) {
-        QImage picture(8, 8, QImage::Format_RGB32);
-        picture.fill(Qt::black);
-        picture.setPixel(moonMark, numbered(100 + number));
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        picture.save(&buffer, "PNG");
-        return bytes.toStdString();
-    }
     void addDayWindows() {
         using shell::Process;
         windows.addModule(shell::Module::cardOfDay, [](Process& p) { return new tarot::FrmCartaDia(p); });
@@ -71,19 +62,13 @@ struct DayFixture : WindowFixture {
     /// Lets the clock go on by seconds, with the ticks that they bring to the hub and to the card of the day.
     void run(base::CivilDate date, base::CivilTime from, int seconds) {
         for (int i = 0; i < seconds; ++i) {
-            const base::DateValue first = base::dateValueOf(date, from);
-            clock.moment = first + i / 86400.0;
+            clock.moment = base::dateValueOf(date, from) + i / 86400.0;
             fire(hub, "TimeUp");
             shell::ModuleWindow& module = *windows.loadedModule();
             if (module.module() == shell::Module::cardOfDay) fire(module, "krono");
         }
     }
 
-    static QString textOf(const QWidget& window, const char* name) { return control<QLabel>(window, name).text(); }
-    static QString tipOf(const QWidget& window, const char* name) { return control<QWidget>(window, name).toolTip(); }
-    static QRgb onShow(const QWidget& window, const char* name, QPoint at = {}) {
-        return control<shell::PictureBox>(window, name).picture().pixel(at);
-    }
     static void move(QWidget& receiver, QPoint to, int times = 1) {
         for (int i = 0; i < times; ++i) {
             QMouseEvent event(QEvent::MouseMove, to, receiver.mapToGlobal(to), Qt::NoButton, Qt::NoButton,
