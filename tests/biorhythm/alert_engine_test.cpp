@@ -6,14 +6,11 @@
 #include "biorhythm/field_text.h"
 #include "biorhythm/profile_files.h"
 #include "shell/option_values.h"
-#include "tests/support/fakes.h"
-
-#include <gtest/gtest.h>
+#include "support/fakes.h"
 
 #include <cmath>
 
 namespace velmoriax::biorhythm {
-
 namespace {
 
 constexpr std::string_view rule = "\r\n---------------------------------------------\r\n";
@@ -25,8 +22,7 @@ base::DateValue halfHour(int number) {
     return firstDay + number / 48.0;
 }
 
-class AlertEngine : public testing::Test {
-protected:
+struct AlertEngine : testing::Test {
     AlertEngine() {
         setBirthDate(state, {1980, 3, 15});
         setBirthTime(state, {7, 45, 0});
@@ -72,8 +68,6 @@ protected:
     test::FakeNotification notification;
     test::FakeSounds sounds;
 };
-
-} // namespace
 
 TEST(AlertMessages, BeginAPhaseAtATurningPointWithItsTies) {
     const auto phase = [](float back, float now, float next) {
@@ -226,4 +220,5 @@ TEST_F(AlertEngine, TakesTheTipsBirthDateFromTheFileAndItsTimeFromTheRecord) {
     EXPECT_EQ(record.bioTipText, "Biorhythms (avg.): -39.20 % (<)") << "born at 7:45, not at the file's 12:00";
 }
 
+} // namespace
 } // namespace velmoriax::biorhythm
