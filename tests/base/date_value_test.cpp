@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/date_value.h"
-#include "support/table.h"
+#include "support/helpers.h"
 
 namespace velmoriax::base {
 namespace {

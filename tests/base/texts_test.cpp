@@ -5,7 +5,7 @@
 #include "base/rounding.h"
 #include "base/run_time_error.h"
 #include "base/western_text.h"
-#include "support/table.h"
+#include "support/helpers.h"
 
 #include <limits>
 

@@ -2,7 +2,7 @@
 #include "biorhythm/bio_gauge.h"
 #include "biorhythm/compatibility.h"
 #include "biorhythm/cycle_engine.h"
-#include "support/table.h"
+#include "support/helpers.h"
 
 namespace velmoriax::biorhythm {
 namespace {

@@ -2,7 +2,6 @@
 #include "biorhythm/profile_editor.h"
 #include "biorhythm/profile_files.h"
 #include "biorhythm/profile_store.h"
-#include "support/errors.h"
 #include "support/fakes.h"
 
 namespace velmoriax::biorhythm {

@@ -3,8 +3,7 @@
 #include "base/date_text.h"
 #include "base/western_text.h"
 #include "sky/zodiac_tables.h"
-#include "support/bytes_of.h"
-#include "support/table.h"
+#include "support/helpers.h"
 #include "tarot/card_catalogue.h"
 
 #include <QImage>

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "platform/qt/disk_files.h"
-#include "support/bytes_of.h"
 #include "support/fakes.h"
 
 #include <cstdlib>

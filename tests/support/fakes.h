@@ -15,7 +15,7 @@
 #include "platform/sounds.h"
 #include "platform/task_bar.h"
 #include "platform/time_zone.h"
-#include "support/table.h"
+#include "support/helpers.h"
 
 #include <deque>
 #include <functional>

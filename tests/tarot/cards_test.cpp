@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/date_text.h"
 #include "base/run_time_error.h"
-#include "support/table.h"
+#include "support/helpers.h"
 #include "tarot/card_catalogue.h"
 #include "tarot/card_descriptions.h"
 

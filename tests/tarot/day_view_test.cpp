@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/table.h"
+#include "support/helpers.h"
 #include "tarot/day_view.h"
 
 namespace velmoriax::tarot {

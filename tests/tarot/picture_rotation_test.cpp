@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/errors.h"
-#include "support/table.h"
+#include "support/helpers.h"
 #include "tarot/picture_rotation.h"
 
 namespace velmoriax::tarot {

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/errors.h"
 #include "support/fakes.h"
 #include "tarot/names_reading.h"
 #include "tarot/numbers_reading.h"
