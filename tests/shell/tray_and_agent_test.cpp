@@ -105,10 +105,12 @@ TEST(TrayTip, IsBuiltOnceFromDatePlanetAndFourLines) {
 }
 
 TEST(TrayTip, AnyOfThreeMarksMeansNoBirthDate) {
-    const test::Table<base::CivilDate, const char*> rows{{{1900, 1, 1}, "the mark itself"},
-                                                         {{1975, 3, 1}, "a real first of March"},
-                                                         {{1975, 1, 14}, "a real January"},
-                                                         {{1900, 3, 14}, "a real 1900"}};
+    const test::Table<base::CivilDate, const char*> rows{
+        {{1900, 1, 1}, "the mark itself"},
+        {{1975, 3, 1}, "a real first of March"},
+        {{1975, 1, 14}, "a real January"},
+        {{1900, 3, 14}, "a real 1900"},
+    };
     Lines source;
     for (const auto& [birth, why] : rows) {
         EXPECT_EQ(balloonText(birth, {2026, 11, 15}, source),
@@ -135,12 +137,12 @@ TEST(TaskBarMetrics, ReportAndEdge) {
 }
 
 TEST(PopupPlaces, NotificationTakesItsSizeFromTheLength) {
-    for (const auto& [length, back, height] : test::Table<std::size_t, NotifBack, int>{{0, NotifBack::small, 120},
-                                                                                       {149, NotifBack::small, 120},
-                                                                                       {150, NotifBack::middle, 178},
-                                                                                       {265, NotifBack::middle, 178},
-                                                                                       {266, NotifBack::large, 243},
-                                                                                       {600, NotifBack::large, 243}}) {
+    using enum NotifBack;
+    const test::Table<std::size_t, NotifBack, int> rows{
+        {0, small, 120},    {149, small, 120}, {150, middle, 178},
+        {265, middle, 178}, {266, large, 243}, {600, large, 243},
+    };
+    for (const auto& [length, back, height] : rows) {
         EXPECT_EQ(notifSize(length).back, back) << length;
         EXPECT_EQ(notifSize(length).height, height) << length;
     }

@@ -59,10 +59,12 @@ TEST_F(MoonEngineTest, GivesTheKnownValues) {
     EXPECT_NEAR(moonPhaseJulianDay(1285, firstQuarter), 2461361.99235, 5e-6);
     EXPECT_NEAR(moonPhaseJulianDay(1285, fullMoon), 2461369.12130, 5e-6);
     EXPECT_NEAR(moonPhaseJulianDay(1285, lastQuarter), 2461375.75684, 5e-6);
-    for (const auto& [date, lunation, age, angle, tolerance] :
-         test::Table<DateValue, int, double, double, double>{{46341.5, 1285, 6.20612, 75.657, 5e-4},
-                                                             {38518, 1020, 8.08594, 98.574, 5e-4},
-                                                             {longLunationsEnd, 952, 29.82033, 363.53, 5e-3}}) {
+    const test::Table<DateValue, int, double, double, double> rows{
+        {46341.5, 1285, 6.20612, 75.657, 5e-4},
+        {38518, 1020, 8.08594, 98.574, 5e-4},
+        {longLunationsEnd, 952, 29.82033, 363.53, 5e-3},
+    };
+    for (const auto& [date, lunation, age, angle, tolerance] : rows) {
         EXPECT_EQ(engine.lunationOfDate(date), lunation);
         EXPECT_NEAR(engine.moonAgeDays(date), age, 5e-6);
         EXPECT_NEAR(engine.moonPhaseAngle(date), angle, tolerance);
@@ -91,10 +93,12 @@ TEST_F(MoonEngineTest, AgreesWithAlmanacsAsFarAsItsFoldsAllow) {
 }
 
 TEST_F(MoonEngineTest, PhasesOfALunationStandInOrderAndTheNamesChangeAtThem) {
-    const test::Table<MoonPhase, std::string, std::string> changes{{newMoon, "Wanning Crescent", "Waxing Crescent"},
-                                                                   {firstQuarter, "Waxing Crescent", "Waxing Gibbous"},
-                                                                   {fullMoon, "Waxing Gibbous", "Waning Gibbous"},
-                                                                   {lastQuarter, "Waning Gibbous", "Wanning Crescent"}};
+    const test::Table<MoonPhase, std::string, std::string> changes{
+        {newMoon, "Wanning Crescent", "Waxing Crescent"},
+        {firstQuarter, "Waxing Crescent", "Waxing Gibbous"},
+        {fullMoon, "Waxing Gibbous", "Waning Gibbous"},
+        {lastQuarter, "Waning Gibbous", "Wanning Crescent"},
+    };
     overCenturies([&](DateValue date) {
         const std::int32_t lunation = engine.lunationOfDate(date);
         JulianDay last = moonPhaseJulianDay(lunation - 1, lastQuarter);

@@ -90,10 +90,12 @@ TEST_F(BioView, StepsTheReadingWhileAnArrowIsHeld) {
 }
 
 TEST_F(BioView, StopsAtTheBoundsAndCrossesMonths) {
-    const test::Table<base::CivilDate, Qt::Key, const char*> rows{{{2100, 12, 31}, Qt::Key_Right, "31 December 2100"},
-                                                                  {{1900, 1, 1}, Qt::Key_Left, "1 January 1900"},
-                                                                  {{2026, 3, 1}, Qt::Key_Left, "28 February 2026"},
-                                                                  {{2026, 12, 31}, Qt::Key_Right, "1 January 2027"}};
+    const test::Table<base::CivilDate, Qt::Key, const char*> rows{
+        {{2100, 12, 31}, Qt::Key_Right, "31 December 2100"},
+        {{1900, 1, 1}, Qt::Key_Left, "1 January 1900"},
+        {{2026, 3, 1}, Qt::Key_Left, "28 February 2026"},
+        {{2026, 12, 31}, Qt::Key_Right, "1 January 2027"},
+    };
     for (const auto& [from, key, to] : rows) {
         control<QDateEdit>(view, "DTPicker1").setDate({from.year, from.month, from.day});
         press(view, "CmdGo");
