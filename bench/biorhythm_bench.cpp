@@ -14,6 +14,9 @@ constexpr base::CivilMoment birth{{1980, 3, 15}, {7, 45, 0}};
 
 struct SilentNotification : platform::Notification {
     void slideUp(const std::string& text) override { benchmark::DoNotOptimize(text.size()); }
+    void show(const std::string&) override {}
+    void slideDown() override {}
+    void close() override {}
     bool isOpen() const override { return false; }
 };
 struct SilentSounds : platform::Sounds {

@@ -21,6 +21,7 @@ struct View : test::WindowFixture {
         QCoreApplication::processEvents();
     }
     void TestBody() override {}
+    using WindowFixture::files, WindowFixture::record;
 
     frmBio* view;
 };

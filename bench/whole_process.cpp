@@ -53,8 +53,18 @@ public:
         return reply ? static_cast<int>(reply->value_len) : 0;
     }
 
+    /// Waits until the list is longer than that, or as short again. False when the desktop has gone.
     bool waitForMoreThan(int number) const {
-        while (count() <= number) {
+        return waitUntil([=, this] { return count() > number; });
+    }
+    bool waitForAtMost(int number) const {
+        return waitUntil([=, this] { return count() <= number; });
+    }
+
+private:
+    template<typename Test>
+    bool waitUntil(Test test) const {
+        while (!test()) {
             const std::unique_ptr<::xcb_generic_event_t, decltype(&std::free)> event(::xcb_wait_for_event(connection_),
                                                                                      &std::free);
             if (!event) return false;
@@ -62,7 +72,6 @@ public:
         return true;
     }
 
-private:
     ::xcb_connection_t* connection_;
     ::xcb_window_t root_ = 0;
     ::xcb_atom_t list_ = 0;
@@ -83,13 +92,14 @@ void end(::pid_t child) {
 double medianStart(int starts, char** command) {
     const WindowList windows;
     std::vector<double> times;
+    const int before = windows.count();
     for (int i = 0; i < starts; ++i) {
-        const int before = windows.count();
         const auto begin = Clock::now();
         const ::pid_t child = start(command);
         windows.waitForMoreThan(before);
         times.push_back(duration<double, std::milli>(Clock::now() - begin).count());
         end(child);
+        windows.waitForAtMost(before); // the window manager notices the end later
         std::this_thread::sleep_for(std::chrono::milliseconds(200));
     }
     std::ranges::sort(times);

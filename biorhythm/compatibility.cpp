@@ -48,7 +48,7 @@ float generalOf(std::int32_t distance, int period) {
 
 CompatibilityLabels labelsOf(Compatibility& record, const CycleValues& percent, std::string (*text)(float)) {
     record.meanPercent = static_cast<float>(meanOf(percent));
-    niveles(record);
+    Niveles(record);
     CompatibilityLabels labels;
     for (std::size_t i = 0; i < cycleCount; ++i)
         labels.cycles[i] = std::string(cycleTable[i].name) + ": " + text(percent[i]) + " %";
@@ -73,7 +73,7 @@ void takeMainCycles(Compatibility& record, const CycleValues& cycle) {
     for (std::size_t i = 0; i < cycleCount; ++i) record.mainPercent[i] = static_cast<float>(onPercentScale(cycle[i]));
 }
 
-void niveles(Compatibility& record) {
+void Niveles(Compatibility& record) {
     const auto* level = std::ranges::find_if(levels, [&](const Level& row) { return row.holds(record.meanPercent); });
     if (level != levels.end()) record.levelWord = level->word;
 }

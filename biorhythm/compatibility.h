@@ -36,7 +36,7 @@ double onPercentScale(double sine);
 void takeMainCycles(Compatibility& record, const CycleValues& cycle);
 
 /// The word of `meanPercent`; a value outside 0 to 100 leaves the word.
-void niveles(Compatibility& record);
+void Niveles(Compatibility& record);
 
 /// Whether both cycles are high at one time: the mean of the two people's present values. Computes the second one's
 /// age.

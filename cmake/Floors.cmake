@@ -9,6 +9,8 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 list(APPEND VELMORIAX_WARNINGS $<$<BOOL:${VELMORIAX_WERROR}>:-Werror>)
 
+set(VELMORIAX_LIBRARY_FOLDER "${PROJECT_BINARY_DIR}/app")
+
 # Floors 0 to 2: the standard library alone, strict warnings.
 function(velmoriax_room name)
   cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
@@ -28,4 +30,15 @@ function(velmoriax_window_room name)
   target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS)
   target_compile_options(${name} PRIVATE ${VELMORIAX_WARNINGS})
   set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+endfunction()
+
+# What only a part of the program needs and what takes long to load: a library beside the executable, which loads it when
+# it is needed for the first time.
+function(velmoriax_late_library name)
+  cmake_parse_arguments(LIBRARY "" "" "SOURCES;USES" ${ARGN})
+  add_library(${name} MODULE ${LIBRARY_SOURCES})
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE ${LIBRARY_USES})
+  target_compile_options(${name} PRIVATE ${VELMORIAX_WARNINGS})
+  set_target_properties(${name} PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY "${VELMORIAX_LIBRARY_FOLDER}")
 endfunction()

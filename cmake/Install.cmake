@@ -6,7 +6,8 @@ set(packaging "${PROJECT_SOURCE_DIR}/packaging")
 set(made "${PROJECT_BINARY_DIR}/packaging")
 set(readable OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 
-install(TARGETS Velmoriax RUNTIME DESTINATION lib/velmoriax)
+install(TARGETS Velmoriax velmoriax_sound velmoriax_chart
+        RUNTIME DESTINATION lib/velmoriax LIBRARY DESTINATION lib/velmoriax)
 file(MAKE_DIRECTORY "${made}")
 file(CREATE_LINK ../lib/velmoriax/Velmoriax "${made}/velmoriax" SYMBOLIC)
 install(FILES "${made}/velmoriax" DESTINATION bin)

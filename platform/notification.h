@@ -13,6 +13,9 @@ public:
     /// Slides the window up with a text. One that stands slides down instead.
     virtual void slideUp(const std::string& text) = 0;
 
+    /// Slides the window up with a text, unless it stands already: then it stays as it is.
+    virtual void show(const std::string& text) = 0;
+
     /// Slides the window down when its time is over; it stays loaded.
     virtual void slideDown() = 0;
 

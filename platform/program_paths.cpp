@@ -19,7 +19,8 @@ std::string fileSystemPath(std::string_view programPath, std::string_view applic
     std::ranges::replace(inside, '\\', '/');
     if (base::lowerWestern(inside) == optionsFile) inside = optionsFile;
     const bool isRoot = applicationDirectory == "/";
-    return (isRoot ? std::string() : std::string(applicationDirectory)) + inside;
+    if (isRoot) return inside.starts_with('/') ? inside : "/" + inside;
+    return std::string(applicationDirectory) + inside;
 }
 
 bool takesSubdirectory(std::string_view applicationDirectory) {

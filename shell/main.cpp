@@ -47,9 +47,11 @@ void nameApplication() {
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
+/// The format is told, so that the readers of other formats are not loaded only to be asked.
 QIcon programIcon() {
     QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64}) icon.addFile(QStringLiteral(":/icons/velmoriax-%1.png").arg(size));
+    for (const int size : {16, 22, 24, 32, 48, 64})
+        icon.addPixmap(QPixmap(QStringLiteral(":/icons/velmoriax-%1.png").arg(size), "PNG"));
     return icon;
 }
 
@@ -101,7 +103,8 @@ int main(int argc, char** argv) {
     desktop::FatalBox fatalBox;
     desktop::Application application(argc, argv, fatalBox);
     nameApplication();
-    application.setWindowIcon(programIcon());
+    const QIcon icon = programIcon();
+    application.setWindowIcon(icon);
     shell::look::apply(application);
 
     desktop::QtMessageBoxes boxes;
@@ -115,18 +118,19 @@ int main(int argc, char** argv) {
 
     desktop::SystemClock clock;
     desktop::SystemTimeZone zone;
-    desktop::Mixer mixer(files);
+    const std::string libraryFolder = QApplication::applicationDirPath().toStdString();
+    desktop::Mixer mixer(files, libraryFolder);
     desktop::QtDocumentOpener opener(files);
     desktop::XdgAutostart autostart(QApplication::applicationFilePath().toStdString());
     desktop::QtPendingEvents events;
     desktop::ClockRandom random;
-    desktop::DesktopTray tray(programIcon());
+    desktop::DesktopTray tray(icon);
     const desktop::PanelPosition panel(tray);
-    shell::DesktopServices services{clock, zone,      files,  mixer,  mixer, opener,
-                                    boxes, autostart, events, random, tray,  panel};
+    shell::DesktopServices services{clock,     zone,   files,  mixer, mixer, opener,       boxes,
+                                    autostart, events, random, tray,  panel, libraryFolder};
 
     shell::ProcessRecord record(files);
-    shell::WindowRegistry windows;
+    shell::WindowRegistry windows(events);
     Process process{record, services, windows};
     addWindows(windows);
     const auto notification = shell::makeNotification(process);
@@ -144,5 +148,6 @@ int main(int argc, char** argv) {
     } catch (const base::RunTimeError& error) {
         fatalBox.stop(error);
     }
-    return QApplication::exec();
+    // The end may have been asked for while the first window still loaded, with no event loop to leave.
+    return record.shell.closingAll ? EXIT_SUCCESS : QApplication::exec();
 }

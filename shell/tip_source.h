@@ -7,10 +7,10 @@ namespace velmoriax::shell {
 
 /// The four lines of the tray tip.
 struct TipLines {
-    std::string card;
-    std::string sign;
-    std::string bio;
-    std::string moon;
+    std::string tipCard;
+    std::string tipSign;
+    std::string bioTipText;
+    std::string tipMoon;
 };
 
 /// Who works out the lines: the hub, when a tip comes up and at no other time.

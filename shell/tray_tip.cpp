@@ -20,8 +20,9 @@ std::string tipDateLine(base::CivilDate today) {
 }
 
 std::string joinedTipLines(const TipLines& lines) {
-    std::string text = lines.card;
-    for (const std::string* line : {&lines.sign, &lines.bio, &lines.moon}) text.append(lineBreak).append(*line);
+    std::string text = lines.tipCard;
+    for (const std::string* line : {&lines.tipSign, &lines.bioTipText, &lines.tipMoon})
+        text.append(lineBreak).append(*line);
     return text;
 }
 

@@ -111,8 +111,12 @@ MoonDetails refreshMoonDetails(const MoonEngine& engine, base::DateValue moonMom
         details.labelResum = "Moon " + summary.text;
         details.moonPercentText = summary.moonPercentText;
     }
-    details.labelAd = showPrevious ? "(Click on the Moon to see previous)" : "(Click on the Moon to see next)";
+    details.labelAd = moonListHint(showPrevious);
     return details;
+}
+
+std::string moonListHint(bool showPrevious) {
+    return showPrevious ? "(Click on the Moon to see previous)" : "(Click on the Moon to see next)";
 }
 
 std::string moonDateTip(const MoonEngine& engine, base::DateValue moment, std::int16_t h, double fraction) {

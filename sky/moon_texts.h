@@ -30,6 +30,9 @@ struct MoonDetails {
     std::string moonPercentText;
 };
 
+/// Names the list on view.
+std::string moonListHint(bool showPrevious);
+
 /// Reads the illumination that `moonIllumination` has left in the record for `moonMoment`.
 MoonDetails refreshMoonDetails(const MoonEngine& engine, base::DateValue moonMoment, bool showPrevious,
                                const SkyState& state);

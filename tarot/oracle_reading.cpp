@@ -72,7 +72,7 @@ std::optional<SuitReading> drawSuitCard(Suit suit, std::string_view question, Or
     state.readingStarted = true;
     state.*fieldsOf(suit).sum = state.wordSum;
     state.dateSum = sumdate(state.readingDate);
-    DrawnCard drawn = drawnMinor(state.wordSum + state.dateSum, suit, services.applicationDirectory);
+    DrawnCard drawn = drawnMinor(base::toInt16(state.wordSum + state.dateSum), suit, services.applicationDirectory);
     state.*fieldsOf(suit).card = drawn.card;
     state.currentCardNumber = drawn.card;
     drawn.orientation = thrown(state, services.random);

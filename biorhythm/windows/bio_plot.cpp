@@ -1,39 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#undef QT_NO_KEYWORDS // the chart library's header writes them
 #include "biorhythm/windows/bio_plot.h"
 
+#include "base/run_time_error.h"
 #include "biorhythm/chart_text.h"
-#include "biorhythm/windows/bio_colours.h"
-#include "biorhythm/windows/cycle_graph.h"
-#include "shell/windows/look.h"
 
 #include <QAccessibleWidget>
+#include <QLibrary>
 #include <QPainter>
 #include <QVBoxLayout>
 
 namespace velmoriax::biorhythm {
 
 namespace {
-
-namespace look = shell::look;
-
-constexpr double highest = 1.12; ///< of the value axis: a line at its peak keeps its whole width
-constexpr double rowCount = chartRowCount;
-
-QColor faint(QColor colour, int alpha) {
-    colour.setAlpha(alpha);
-    return colour;
-}
-
-void dressAxis(QCPAxis& axis, const QFont& font) {
-    axis.setBasePen(QPen(look::quietText(), 0));
-    axis.setTickPen(Qt::NoPen);
-    axis.setSubTickPen(Qt::NoPen);
-    axis.setTickLabelColor(look::ivory());
-    axis.setTickLabelFont(font);
-    axis.grid()->setPen(QPen(faint(look::quietText(), 34), 0));
-    axis.grid()->setZeroLinePen(QPen(faint(look::ivory(), 150), 0));
-}
 
 /// The chart as a screen reader meets it.
 class SpokenPlot : public QAccessibleWidget {
@@ -53,124 +31,31 @@ QAccessibleInterface* spokenPlot(const QString&, QObject* object) {
 
 } // namespace
 
-/// The plot itself, with one graph a series.
-class BioPlot::Drawing : public QCustomPlot {
-public:
-    explicit Drawing(QWidget* parent);
-
-    void show(const ChartData& chart);
-
-private:
-    void addRows();
-    void addSides();
-    void addLegend();
-    void markReading();
-    void addSeries();
-    void showSeriesCount(std::size_t count);
-
-    QSharedPointer<QCPAxisTickerText> rows_{new QCPAxisTickerText};
-    std::array<CycleGraph*, chartSeriesCount> series_{};
-    std::size_t shown_ = 0;
-};
-
-BioPlot::Drawing::Drawing(QWidget* parent) : QCustomPlot(parent) {
-    setFocusPolicy(Qt::NoFocus);
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setBackground(look::ground());
-    axisRect()->setBackground(plotGround());
-    axisRect()->setMinimumMargins(QMargins(0, 2, 2, 0));
-    addRows();
-    addSides();
-    addLegend();
-    markReading();
-    addSeries();
+PlotDrawing& loadPlotDrawing(const std::string& libraryFolder, QWidget& parent) {
+    using Maker = PlotDrawing*(QWidget*);
+    const std::string library = libraryFolder + "/velmoriax_chart.so";
+    const auto make =
+        reinterpret_cast<Maker*>(QLibrary::resolve(QString::fromStdString(library), "velmoriaxPlotDrawing"));
+    if (!make) throw base::RunTimeError(base::RunTimeError::Code::fileNotFound, library);
+    return *make(&parent);
 }
 
-void BioPlot::Drawing::addRows() {
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.85);
-    dressAxis(*xAxis, small);
-    xAxis->setTicker(rows_);
-    xAxis->setRange(0.4, rowCount + 0.6);
-}
-
-void BioPlot::Drawing::addSides() {
-    const QSharedPointer<QCPAxisTickerText> sides(new QCPAxisTickerText);
-    sides->addTicks({{1.0, QStringLiteral("High")}, {0.0, QStringLiteral("Critical")}, {-1.0, QStringLiteral("Low")}});
-    dressAxis(*yAxis, font());
-    yAxis->setTicker(sides);
-    yAxis->setRange(-highest, highest);
-}
-
-void BioPlot::Drawing::addLegend() {
-    axisRect()->insetLayout()->take(legend);
-    plotLayout()->insertRow(0);
-    plotLayout()->addElement(0, 0, legend);
-    plotLayout()->setRowStretchFactor(0, 0.001);
-    legend->setVisible(true);
-    legend->setFillOrder(QCPLegend::foColumnsFirst);
-    legend->setWrap(cycleCount);
-    legend->setBrush(Qt::NoBrush);
-    legend->setBorderPen(Qt::NoPen);
-    legend->setTextColor(look::ivory());
-    legend->setFont(font());
-    legend->setIconSize(30, 16);
-    legend->setMargins(QMargins(4, 0, 4, 0));
-    legend->setRowSpacing(0);
-}
-
-void BioPlot::Drawing::markReading() {
-    const double row = readingRow + 1;
-    auto* band = new QCPItemRect(this);
-    band->setLayer(QStringLiteral("background"));
-    band->topLeft->setCoords(row - 0.5, highest);
-    band->bottomRight->setCoords(row + 0.5, -highest);
-    band->setPen(Qt::NoPen);
-    band->setBrush(faint(look::gold(), 60));
-    auto* line = new QCPItemStraightLine(this);
-    line->setLayer(QStringLiteral("background"));
-    line->point1->setCoords(row, -highest);
-    line->point2->setCoords(row, highest);
-    line->setPen(QPen(look::gold(), 1));
-}
-
-void BioPlot::Drawing::addSeries() {
-    for (std::size_t i = 0; i < chartSeriesCount; ++i) series_[i] = new CycleGraph(*xAxis, *yAxis, i);
-    new CycleBadges(*this, series_);
-}
-
-/// The second profile's series leave chart and legend when they are not drawn.
-void BioPlot::Drawing::showSeriesCount(std::size_t count) {
-    if (count == shown_) return;
-    shown_ = count;
-    legend->clearItems();
-    for (std::size_t i = 0; i < chartSeriesCount; ++i) series_[i]->setVisible(i < count);
-    for (std::size_t i = 0; i < count; ++i) series_[i]->addToLegend();
-}
-
-void BioPlot::Drawing::show(const ChartData& chart) {
-    showSeriesCount(chart.seriesCount);
-    rows_->clear();
-    for (std::size_t row = 0; row < chartRowCount; ++row)
-        rows_->addTick(static_cast<double>(row + 1), QString::number(chart.rowLabels[row]));
-    for (std::size_t i = 0; i < chart.seriesCount; ++i) series_[i]->take(chart);
-    replot(QCustomPlot::rpQueuedReplot);
-}
-
-BioPlot::BioPlot(QWidget* parent) : QWidget(parent), drawing_(new Drawing(this)) {
+BioPlot::BioPlot(QWidget* parent) : QWidget(parent) {
     [[maybe_unused]] static const bool spoken = (QAccessible::installFactory(spokenPlot), true);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("Biorhythm chart"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(2, 2, 2, 2);
-    layout->addWidget(drawing_);
 }
 
-BioPlot::~BioPlot() = default;
+void BioPlot::takeDrawing(PlotDrawing& drawing) {
+    drawing_ = &drawing;
+    layout()->addWidget(&drawing.widget());
+}
 
 void BioPlot::showChart(const ChartData& chart) {
     chart_ = chart;
-    drawing_->show(chart);
+    if (drawing_) drawing_->show(chart);
     if (!hasFocus() || !QAccessible::isActive()) return;
     QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&changed);

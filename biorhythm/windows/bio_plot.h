@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "biorhythm/bio_chart.h"
+#include "biorhythm/windows/plot_drawing.h"
 
 #include <QWidget>
-
-#include <memory>
 
 namespace velmoriax::biorhythm {
 
@@ -15,7 +13,9 @@ class BioPlot : public QWidget {
 
 public:
     explicit BioPlot(QWidget* parent = nullptr);
-    ~BioPlot() override;
+
+    /// Gives it what draws the lines; a child of this widget from now on.
+    void takeDrawing(PlotDrawing& drawing);
 
     void showChart(const ChartData& chart);
     const ChartData& chart() const { return chart_; }
@@ -29,10 +29,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    class Drawing;
-
     ChartData chart_;
-    Drawing* drawing_; ///< a child
+    PlotDrawing* drawing_ = nullptr;
 };
 
 } // namespace velmoriax::biorhythm

@@ -9,6 +9,7 @@
 #include "biorhythm/stepper_dates.h"
 #include "biorhythm/windows/bio_colours.h"
 #include "biorhythm/windows/date_steppers.h"
+#include "biorhythm/windows/frm_profiles.h"
 #include "biorhythm/windows/qt_values.h"
 #include "shell/windows/look.h"
 #include "shell/windows/notifications.h"
@@ -80,6 +81,7 @@ frmBio* frmBio::loadedIn(const shell::Process& process) {
 }
 
 void frmBio::dress() {
+    ui_->MSChart1->takeDrawing(loadPlotDrawing(desktop().libraryFolder, *ui_->MSChart1));
     const auto rows = cycleRows(*ui_);
     for (std::size_t i = 0; i < cycleCount; ++i) {
         setColour(*rows[i].name, colourOf(barTable[i].colour));
@@ -350,7 +352,9 @@ void frmBio::saveProfile() {
 }
 
 void frmBio::editProfiles() {
-    process().windows.touch("FrmProfiles", process()).showNormalState();
+    auto& list = static_cast<FrmProfiles&>(process().windows.touch("FrmProfiles", process()));
+    list.ListaPerfiles(); // it may stand open from before
+    list.showNormalState();
 }
 
 void frmBio::compareProfiles() {

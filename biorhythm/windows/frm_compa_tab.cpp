@@ -15,7 +15,11 @@ FrmCompaTab::FrmCompaTab(shell::Process& process) : SecondaryWindow(process), ui
     for (const char* caption : {"Actual", "General", "Exit"}) ui_->SSTab1->addTab(QString::fromLatin1(caption));
     shell::look::asTitle(*ui_->LabelProMain);
     showLabels(firstCompatibilityLabels());
-    connect(ui_->ListProfiles, &QListWidget::currentRowChanged, this, &FrmCompaTab::chooseProfile);
+    connect(ui_->ListProfiles, &QListWidget::itemClicked, this, &FrmCompaTab::chooseProfile);
+    connect(ui_->ListProfiles, &QListWidget::itemSelectionChanged, this, [this] {
+        const bool byKey = QGuiApplication::mouseButtons() == Qt::NoButton; // a click comes when the button goes up
+        if (byKey && !chosenName().isEmpty()) chooseProfile();
+    });
     connect(ui_->CheckPlot, &QCheckBox::toggled, this, &FrmCompaTab::plotToggled);
     connect(ui_->SSTab1, &QTabBar::currentChanged, this, &FrmCompaTab::turnTo);
 }
@@ -33,14 +37,18 @@ void FrmCompaTab::load() {
     {
         const QSignalBlocker quiet(ui_->ListProfiles);
         ui_->ListProfiles->addItems(view().profileNames());
-        ui_->ListProfiles->setCurrentRow(-1);
     }
     const QSignalBlocker quiet(ui_->CheckPlot);
     ui_->CheckPlot->setChecked(record().options.leerDibujarSecundario() == "1");
     takeMainCycles(compatibility_, record().bio.cycle);
     const QString stored = qtText(record().options.leerNombreSecundario());
     const auto found = ui_->ListProfiles->findItems(stored, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (!found.isEmpty()) ui_->ListProfiles->setCurrentItem(found.last());
+    if (found.isEmpty()) return;
+    {
+        const QSignalBlocker quietToo(ui_->ListProfiles);
+        ui_->ListProfiles->setCurrentItem(found.last());
+    }
+    chooseProfile();
 }
 
 void FrmCompaTab::onUnload() {
@@ -48,8 +56,8 @@ void FrmCompaTab::onUnload() {
 }
 
 QString FrmCompaTab::chosenName() const {
-    const QListWidgetItem* item = ui_->ListProfiles->currentItem();
-    return item ? item->text() : QString();
+    const auto chosen = ui_->ListProfiles->selectedItems();
+    return chosen.isEmpty() ? QString() : chosen.first()->text();
 }
 
 bool FrmCompaTab::mainIsChosen() const {
@@ -63,7 +71,8 @@ void FrmCompaTab::chooseProfile() {
         return desktop().boxes.show(platform::BoxIcon::warning, std::string(text::sameProfile),
                                     std::string(text::errorInfoTitle));
     const std::string name = chosenName().toStdString();
-    loadSecondProfile(desktop().files, name, record().second);
+    const bool readable = loadSecondProfile(desktop().files, name, record().second);
+    if (!readable) return showResults(false); // nobody's figures are to stand under this name
     compare();
     storeSecondName(record().options, record().second, name);
     if (ui_->CheckPlot->isChecked())

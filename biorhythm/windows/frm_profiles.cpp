@@ -37,8 +37,9 @@ void FrmProfiles::ListaPerfiles() {
 }
 
 std::string FrmProfiles::selectedRecord() const {
-    const QListWidgetItem* item = ui_->ListProfiles->currentItem();
-    return item ? item->text().toStdString() : std::string();
+    // Not the current one: the list makes its first entry current when it gets the focus, which chooses nobody.
+    const auto chosen = ui_->ListProfiles->selectedItems();
+    return chosen.isEmpty() ? std::string() : chosen.first()->text().toStdString();
 }
 
 void FrmProfiles::deleteRecord() {

@@ -14,7 +14,7 @@ QByteArrayList pictureEncoders() {
     return QImageWriter::supportedMimeTypes();
 }
 
-std::optional<QByteArray> encoderFromMime(const QByteArray& mime, const QByteArrayList& encoders) {
+std::optional<QByteArray> encoderClsidFromMime(const QByteArray& mime, const QByteArrayList& encoders) {
     const auto found = std::ranges::find_if(
         encoders, [&](const QByteArray& type) { return type.compare(mime, Qt::CaseInsensitive) == 0; });
     return found == encoders.end() ? std::nullopt : std::optional(*found);
@@ -30,7 +30,7 @@ bool savePictureAsJpeg(const QImage& picture, platform::Files& files, platform::
                        const std::string& path, int quality, const QByteArrayList& encoders) {
     constexpr int bestQuality = 100;
     if (picture.isNull()) return false;
-    if (!encoderFromMime("image/jpeg", encoders)) {
+    if (!encoderClsidFromMime("image/jpeg", encoders)) {
         boxes.show(platform::BoxIcon::none, std::string(text::noEncoder), std::string(text::encoderErrorTitle));
         return false;
     }

@@ -15,7 +15,7 @@ namespace velmoriax::biorhythm {
 QByteArrayList pictureEncoders();
 
 /// The first of the encoders for a MIME type, compared without regard to case; nothing when there is none.
-std::optional<QByteArray> encoderFromMime(const QByteArray& mime, const QByteArrayList& encoders);
+std::optional<QByteArray> encoderClsidFromMime(const QByteArray& mime, const QByteArrayList& encoders);
 
 /// A picture's bytes in a format of the toolkit, such as "BMP"; empty on failure. `quality` is from 0 to 100, -1 for
 /// the format's own.

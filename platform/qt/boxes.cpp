@@ -7,6 +7,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QSaveFile>
+#include <QThread>
 #include <QUrl>
 
 #include <cstdlib>
@@ -92,7 +93,13 @@ bool QtDocumentOpener::open(const std::string& target) {
 }
 
 void QtPendingEvents::letRun() {
+    ++depth_;
     QCoreApplication::processEvents();
+    --depth_;
+}
+
+bool QtPendingEvents::areRunning() const {
+    return depth_ > 0 || QThread::currentThread()->loopLevel() > 1;
 }
 
 std::string quotedExecArgument(const std::string& argument) {

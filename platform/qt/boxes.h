@@ -33,6 +33,10 @@ private:
 class QtPendingEvents : public platform::PendingEvents {
 public:
     void letRun() override;
+    bool areRunning() const override;
+
+private:
+    int depth_ = 0;
 };
 
 /// Entries in the user's autostart folder, by the XDG rules.

@@ -12,6 +12,7 @@ namespace velmoriax::desktop {
 
 namespace {
 
+constexpr int firstLookMs = 60;          ///< the first window comes before the icon
 constexpr int lookIntervalMs = 500;      ///< a panel comes within ten seconds of a login, or late
 constexpr int lateLookIntervalMs = 5000; ///< for the panel that comes late
 constexpr int graceMs = 6000;            ///< what a panel may take to start again
@@ -20,7 +21,6 @@ constexpr int balloonMs = 60000;         ///< the pointer takes the balloon away
 } // namespace
 
 DesktopTray::DesktopTray(QIcon icon, QObject* parent) : QObject(parent), picture_(std::move(icon)) {
-    lookAgain_.setInterval(lookIntervalMs);
     connect(&lookAgain_, &QTimer::timeout, this, &DesktopTray::lookForTray);
     grace_.setSingleShot(true);
     grace_.setInterval(graceMs);
@@ -36,7 +36,7 @@ void DesktopTray::add(const QString& tip, QMenu* menu) {
     tip_ = tip;
     menu_ = menu;
     if (icon_) return apply();
-    if (!lookAgain_.isActive()) lookForTray();
+    if (!lookAgain_.isActive()) lookAgain_.start(firstLookMs);
 }
 
 void DesktopTray::update(const QString& tip) {
@@ -73,11 +73,9 @@ QRect DesktopTray::geometry() const {
 
 void DesktopTray::lookForTray() {
     if (const auto kind = trayThatIsThere()) return takeTray(*kind);
-    if (looks_ <= mostLooks && ++looks_ > mostLooks) {
-        lookAgain_.setInterval(lateLookIntervalMs);
-        Q_EMIT waitEnded();
-    }
-    lookAgain_.start();
+    const bool waitEndsNow = looks_ <= mostLooks && ++looks_ > mostLooks;
+    lookAgain_.start(looks_ > mostLooks ? lateLookIntervalMs : lookIntervalMs);
+    if (waitEndsNow) Q_EMIT waitEnded();
 }
 
 void DesktopTray::takeTray(TrayKind kind) {

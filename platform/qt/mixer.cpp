@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/mixer.h"
 
-#include <SDL.h>
-
 #include <chrono>
 #include <future>
 #include <memory>
@@ -26,13 +24,10 @@ std::string soundBytes(const DiskFiles& files, const std::string& path, std::uin
 
 } // namespace
 
-Mixer::Mixer(const DiskFiles& files) :
-    files_(files), thread_([this](SoundDevice& device) {
+Mixer::Mixer(const DiskFiles& files, std::string libraryFolder) :
+    files_(files), thread_(std::move(libraryFolder), [this](SoundDevice& device) {
         if (const auto end = device.songEnd()) change(end->number, end->playable ? Mode::stopped : Mode::none);
-    }) {
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Velmoriax");
-}
+    }) {}
 
 void Mixer::playWav(const std::string& name) {
     thread_.give([this, path = files_.applicationDirectory() + "\\" + name](SoundDevice& device) {

@@ -14,7 +14,8 @@ namespace velmoriax::desktop {
 /// out by the sound thread, in order. Without a device, a sound font or a file everything stays silent and quick.
 class Mixer : public platform::Sounds, public platform::Media {
 public:
-    explicit Mixer(const DiskFiles& files);
+    /// `libraryFolder` is where the sound library lies.
+    Mixer(const DiskFiles& files, std::string libraryFolder);
 
     void playWav(const std::string& name) override;
 

@@ -30,12 +30,12 @@ void SoundThread::give(Job job) {
 }
 
 void SoundThread::run() {
-    SoundDevice device;
+    const auto device = loadSoundDevice(libraryFolder_);
     bool deviceOpen = false;
     while (const Job job = nextJob(deviceOpen)) {
-        job(device);
-        onBeat_(device);
-        deviceOpen = device.staysOpen();
+        job(*device);
+        onBeat_(*device);
+        deviceOpen = device->staysOpen();
     }
 }
 

@@ -18,8 +18,10 @@ class SoundThread {
 public:
     using Job = std::function<void(SoundDevice&)>;
 
-    /// `onBeat` runs on the thread after each job, and every 50 ms while the device is open.
-    explicit SoundThread(Job onBeat) : onBeat_(std::move(onBeat)) {}
+    /// `libraryFolder` is where the sound library lies. `onBeat` runs on the thread after each job, and every 50 ms
+    /// while the device is open.
+    SoundThread(std::string libraryFolder, Job onBeat) :
+        libraryFolder_(std::move(libraryFolder)), onBeat_(std::move(onBeat)) {}
 
     /// Lets the job under way end, drops those that wait and closes the device.
     ~SoundThread();
@@ -30,6 +32,7 @@ private:
     void run();
     Job nextJob(bool deviceOpen);
 
+    std::string libraryFolder_;
     Job onBeat_;
     std::mutex guard_;
     std::condition_variable wake_;

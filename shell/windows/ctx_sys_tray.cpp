@@ -32,6 +32,7 @@ CtxSysTray::CtxSysTray(Process& process, QMenu& popup) : process_(process), popu
     connect(&tray, &DesktopTray::leftDoubleClicked, this, [this] { clicked(leftButton, true); });
     connect(&tray, &DesktopTray::rightClicked, this, [this] { clicked(rightButton, false); });
     connect(&tray, &DesktopTray::trayTaken, this, &CtxSysTray::followTipText);
+    TimerTooltip_.setObjectName(QStringLiteral("TimerTooltip"));
     TimerTooltip_.setInterval(TipWatch::tickMs);
     connect(&TimerTooltip_, &QTimer::timeout, this, &CtxSysTray::tickTooltip);
     textTimer_.setInterval(textRefreshMs);
@@ -141,7 +142,9 @@ void CtxSysTray::takeTipAway() {
 
 void CtxSysTray::showTrayBalloon() {
     const bool silent = process_.record.options.holders.modoSilencioso == "mudo";
-    Popup(balloonTextNow(process_), programName, silent ? informationIcon | noSound : informationIcon);
+    const std::string lines = balloonTextNow(process_);
+    if (!added_) return; // events have run inside, a hand-over among them
+    Popup(lines, programName, silent ? informationIcon | noSound : informationIcon);
 }
 
 void CtxSysTray::tooltipsSwitched() {
@@ -164,7 +167,7 @@ void CtxSysTray::followTipText() {
 void CtxSysTray::refreshTipText() {
     if (!added_ || tooltipsOff() || process_.record.shell.viewLoading) return;
     const QString lines = QString::fromStdString(balloonTextNow(process_)).remove(u'\r');
-    process_.desktop.tray.update(lines);
+    if (added_) process_.desktop.tray.update(lines);
 }
 
 /// Ticks that would do nothing need not wake the program up.

@@ -4,6 +4,7 @@
 #include "biorhythm/profile_files.h"
 #include "shell/modules.h"
 #include "shell/windows/module_window.h"
+#include "shell/windows/notifications.h"
 #include "shell/windows/window_registry.h"
 #include "sky/moon_engine.h"
 #include "sky/moon_texts.h"
@@ -35,6 +36,10 @@ void FrmTimer::load() {
     biorhythm::loadBirth(desktop().files, record().bio);
     record().options.readAtStart();
     process_.windows.touch(firstModule(record().options.leerModuloInicial()), process_);
+    QTimer::singleShot(untilFirstWindowStandsMs, this, &FrmTimer::runStartupAlert);
+}
+
+void FrmTimer::runStartupAlert() {
     record().alerts.startupAlert = true;
     runAlerts();
     record().alerts.startupAlert = false;
@@ -65,11 +70,11 @@ TipLines FrmTimer::tipLines() {
     TipLines lines;
     tipcartadia(record().agent, base::civilDateOf(now), files.applicationDirectory(),
                 record().options.holders.tipocartas, record().cards);
-    lines.card = record().agent.tipCard;
-    lines.sign = sky::agent::tipsignzodiac({files, desktop().zone}, now, record().sky);
+    lines.tipCard = record().agent.tipCard;
+    lines.tipSign = sky::agent::tipsignzodiac({files, desktop().zone}, now, record().sky);
     biorhythm::biotip(files, record().bio, record().alerts, now);
-    lines.bio = record().alerts.bioTipText;
-    lines.moon =
+    lines.bioTipText = record().alerts.bioTipText;
+    lines.tipMoon =
         sky::lunatip(sky::MoonEngine(desktop().events), sky::localToUniversal(now, desktop().zone), record().sky);
     return lines;
 }

@@ -26,6 +26,7 @@ public:
 private:
     void tickSecond();
     void tickHalfMinute();
+    void runStartupAlert();
     void runAlerts();
 
     ProcessRecord& record() { return process_.record; }

@@ -57,12 +57,14 @@ void FrmToolTip::load() {
     if (!personalTipMayStand(screen, pointer.y(), record().shell.taskBarAtBottom)) return;
     if (!record().shell.tipShown) {
         fill();
+        if (!isLoaded()) return; // events have run inside, a click on the icon among them
         const QSize size(std::max(ui_->back->backSize().width(), sizeHint().width()), sizeHint().height());
         resize(size);
         move(personalTipLeft(screen, size.width(), pointer.x()), personalTipTop(screen, size.height()));
         record().shell.tipShown = true;
     }
     refreshTipMoon();
+    if (!isLoaded()) return;
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
     show();
     Topmost(*this);

@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
-#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 
@@ -55,9 +54,8 @@ void ModuleWindow::load() {
     record().options.readAtModuleLoad(module_ == Module::cardOfDay);
     const bool tooltipsOff = record().options.holders.tooltips == "ToolTips off";
     if (!isRefresh()) tray_.AddIconToSystray(tooltipsOff ? programName : std::string_view{});
-    const QPointer<ModuleWindow> self(this);
     ownLoad();
-    if (self) decideShowing(); // events may have run inside, the program's exit among them
+    if (isLoaded()) decideShowing(); // events may have run inside, the program's exit among them
     flags.viewLoading = false;
 }
 
@@ -92,7 +90,12 @@ void ModuleWindow::handOverTo(Module target) {
     unload();
 }
 
+bool ModuleWindow::isLoaded() const {
+    return process_.windows.isLoaded(*this);
+}
+
 void ModuleWindow::showNormalState() {
+    if (!isLoaded()) return;
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
     show();
     raise();
@@ -152,6 +155,7 @@ void ModuleWindow::tellMissingTray() {
 }
 
 void ModuleWindow::unload() {
+    beforeClose();
     if (!unloadForReal_) return hideToTray();
     const bool soundOn = record().options.holders.bgSound == "SiBgSound";
     if (!record().shell.closingAll && soundOn) desktop().sounds.playWav("boop.wav");
@@ -223,6 +227,7 @@ void ModuleWindow::ownCommand(std::string_view) {}
 void ModuleWindow::buildNavigation() {
     const ModuleNavigation& navigation = navigationOf(module_);
     for (const ButtonRow& row : navigation.buttons) connectButton(row);
+    iconMenu_.setObjectName(text(navigation.iconMenu.name));
     addEntries(&iconMenu_, navigation.iconMenu);
     for (const Menu& table : navigation.mainMenus) {
         QMenu* menu = menuBar()->addMenu(text(table.caption));

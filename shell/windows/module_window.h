@@ -45,6 +45,9 @@ public:
     /// Hides to the tray, or to the taskbar when there is no tray to come back from.
     void hideToTray();
 
+    /// False once the window was unloaded: what let events run inside it is to touch nothing more.
+    bool isLoaded() const;
+
     CtxSysTray& ctxSysTray1() { return tray_; }
 
     /// The action of a menu entry by its control name; null when there is none. The popup's entries come first.
@@ -57,6 +60,7 @@ protected:
     virtual void beforeOptions() {}                  ///< runs ahead of everything else in the load routine
     virtual void ownLoad() = 0;                      ///< the module's own work
     virtual void ownCommand(std::string_view name);  ///< a menu entry that is the module's own business
+    virtual void beforeClose() {}                    ///< the window closes, for good or into the tray
     virtual void onHidden() {}                       ///< the window was hidden by the user
     virtual void onMinimised(bool /*toSystray*/) {}  ///< the window was minimised
     virtual void onUnload() {}                       ///< a true unload, before it goes through

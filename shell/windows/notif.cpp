@@ -46,20 +46,6 @@ void waitUntil(const QElapsedTimer& clock, qint64 microseconds) {
 
 } // namespace
 
-/// Keeps the window alive while it slides: an unload that comes in between waits for the outermost slide.
-class Notif::Slide {
-public:
-    explicit Slide(Notif& window) : window_(window) { ++window_.slides_; }
-    ~Slide() {
-        if (--window_.slides_ == 0 && window_.unloadWanted_) window_.SecondaryWindow::unload();
-    }
-    Slide(const Slide&) = delete;
-    Slide& operator=(const Slide&) = delete;
-
-private:
-    Notif& window_;
-};
-
 // The window manager has no say over this window: one that begins below the screen would be brought onto it, and a
 // notification is neither to be listed nor to be given the focus.
 Notif::Notif(Process& process) : SecondaryWindow(process, smallWindow), ui_(std::make_unique<Ui::Notif>()) {
@@ -90,18 +76,11 @@ void Notif::load() {
     SlideForm(*this, up);
 }
 
-void Notif::unload() {
-    if (slides_ == 0) return SecondaryWindow::unload();
-    unloadWanted_ = true;
-    hide();
-}
-
 void Notif::onUnload() {
     record().shell.notifOpen = false;
 }
 
 void Notif::SlideForm(QWidget& Ventana, int Direction) {
-    const Slide underWay(*this);
     if (!record().shell.notifOpen) {
         takeSize();
         if (Direction == up) return slideUp(Ventana);
@@ -146,7 +125,7 @@ bool Notif::slide(QWidget& Ventana, int step, const std::function<int()>& goal) 
         top_ += step;
         Ventana.move(Ventana.x(), top_);
         desktop().events.letRun();
-        if (record().shell.closingAll || unloadWanted_) return false;
+        if (record().shell.closingAll || !isLoaded()) return false;
         waitUntil(clock, steps * pace);
     }
     return true;

@@ -22,7 +22,6 @@ public:
     ~Notif() override;
 
     void load() override;
-    void unload() override;
 
     static constexpr int up = 0;
     static constexpr int down = 1;
@@ -36,8 +35,6 @@ protected:
     void onUnload() override;
 
 private:
-    class Slide;
-
     void takeSize();
     void fitText();
     void layOut();
@@ -48,9 +45,7 @@ private:
     void onCloseMark();
 
     std::unique_ptr<Ui::Notif> ui_;
-    int top_ = 0;    ///< of the window, in pixels: what the desktop reports of it comes late
-    int slides_ = 0; ///< that are under way, one inside another
-    bool unloadWanted_ = false;
+    int top_ = 0; ///< of the window, in pixels: what the desktop reports of it comes late
 };
 
 } // namespace velmoriax::shell

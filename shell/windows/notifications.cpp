@@ -21,6 +21,10 @@ void SlidingNotification::slideUp(const std::string& text) {
         process_.windows.touch("Notif", process_);
 }
 
+void SlidingNotification::show(const std::string& text) {
+    if (!isOpen()) slideUp(text);
+}
+
 void SlidingNotification::slideDown() {
     if (Notif* notif = window()) notif->SlideForm(*notif, Notif::down);
     process_.desktop.events.letRun();

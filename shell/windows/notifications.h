@@ -11,6 +11,10 @@ namespace velmoriax::shell {
 
 class Notif;
 
+/// How long what is to be told at the start waits, in milliseconds: the slide would hold up the first window, which is
+/// to stand before anything slides over it.
+constexpr int untilFirstWindowStandsMs = 250;
+
 /// Tells through the window `Notif`.
 class SlidingNotification : public platform::Notification {
 public:
@@ -18,6 +22,7 @@ public:
 
     /// The first touch of the window slides it up by itself.
     void slideUp(const std::string& text) override;
+    void show(const std::string& text) override;
     void slideDown() override;
     void close() override;
     bool isOpen() const override { return process_.record.shell.notifOpen; }
@@ -36,6 +41,7 @@ public:
 
     /// A new text takes the place of one that stands.
     void slideUp(const std::string& text) override;
+    void show(const std::string& text) override { slideUp(text); }
     void slideDown() override { close(); }
     void close() override;
     bool isOpen() const override { return process_.record.shell.notifOpen; }

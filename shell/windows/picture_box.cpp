@@ -12,11 +12,22 @@
 
 namespace velmoriax::shell {
 
+namespace {
+
+/// The format by the first bytes, so that the readers of other formats are not loaded only to be asked; none for
+/// others.
+const char* formatOf(const std::string& bytes) {
+    if (bytes.starts_with("\xFF\xD8")) return "JPG";
+    return bytes.starts_with("GIF8") ? "GIF" : nullptr;
+}
+
+} // namespace
+
 QImage loadPicture(const platform::Files& files, const std::string& path) {
     using Code = base::RunTimeError::Code;
     const auto content = files.read(path);
     if (content.status != platform::Files::Status::read) throw base::RunTimeError(Code::fileNotFound, path);
-    const QImage picture = QImage::fromData(QByteArray::fromStdString(content.bytes));
+    const QImage picture = QImage::fromData(QByteArray::fromStdString(content.bytes), formatOf(content.bytes));
     if (picture.isNull()) throw base::RunTimeError(Code::invalidPicture, path);
     return picture;
 }

@@ -35,6 +35,7 @@ struct DesktopServices {
     platform::RandomSource& random;
     desktop::DesktopTray& tray;
     const platform::TaskBar& taskBar;
+    std::string libraryFolder; ///< where the libraries lie that are loaded when they are needed
 };
 
 /// What every window is given: the process record, the desktop and the other windows.

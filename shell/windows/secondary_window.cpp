@@ -20,6 +20,7 @@ void SecondaryWindow::unload() {
 }
 
 void SecondaryWindow::showNormalState() {
+    if (!isLoaded()) return;
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
     show();
     raise();

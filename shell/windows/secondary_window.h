@@ -19,7 +19,10 @@ public:
     virtual void load() = 0;
 
     /// Hides the window, runs `onUnload` and takes it off the registry.
-    virtual void unload();
+    void unload();
+
+    /// False once the window was unloaded: what let events run inside it is to touch nothing more.
+    bool isLoaded() const { return !unloaded_; }
 
     /// Sets the state to normal, shows the window and gives it the focus.
     void showNormalState();

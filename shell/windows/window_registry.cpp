@@ -4,13 +4,23 @@
 #include "shell/windows/module_window.h"
 #include "shell/windows/secondary_window.h"
 
+#include <QTimer>
+
 #include <algorithm>
+#include <utility>
 
 namespace velmoriax::shell {
 
-WindowRegistry::WindowRegistry() = default;
+namespace {
+
+constexpr int lookAgainMs = 50;
+
+} // namespace
+
+WindowRegistry::WindowRegistry(const platform::PendingEvents& events) : events_(events) {}
 
 WindowRegistry::~WindowRegistry() {
+    for (QWidget* window : buried_) delete window;
     for (const auto& [name, window] : loadedSecondaries_) delete window;
     for (ModuleWindow* window : loadedModules_) delete window;
 }
@@ -53,14 +63,32 @@ ModuleWindow* WindowRegistry::loadedModule() const {
     return loadedModules_.empty() ? nullptr : loadedModules_.back();
 }
 
+bool WindowRegistry::isLoaded(const ModuleWindow& window) const {
+    return std::ranges::find(loadedModules_, &window) != loadedModules_.end();
+}
+
 void WindowRegistry::release(ModuleWindow& window) {
     std::erase(loadedModules_, &window);
-    window.deleteLater();
+    bury(window);
 }
 
 void WindowRegistry::release(SecondaryWindow& window) {
     std::erase_if(loadedSecondaries_, [&](const auto& entry) { return entry.second == &window; });
-    window.deleteLater();
+    bury(window);
+}
+
+void WindowRegistry::bury(QWidget& window) {
+    for (QTimer* timer : window.findChildren<QTimer*>()) timer->stop();
+    buried_.push_back(&window);
+    if (buried_.size() == 1) QTimer::singleShot(0, this, &WindowRegistry::destroyBuried);
+}
+
+void WindowRegistry::destroyBuried() {
+    if (events_.areRunning()) {
+        QTimer::singleShot(lookAgainMs, this, &WindowRegistry::destroyBuried);
+        return;
+    }
+    for (QWidget* window : std::exchange(buried_, {})) delete window;
 }
 
 void WindowRegistry::unloadAll() {

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/pending_events.h"
 #include "shell/modules.h"
+
+#include <QWidget>
 
 #include <functional>
 #include <map>
@@ -17,18 +20,19 @@ struct Process;
 
 /// The windows of the process by name. A window is a single instance that comes into being at its first touch; rooms
 /// know one another's windows by name alone.
-class WindowRegistry {
+class WindowRegistry : public QObject {
 public:
     using ModuleFactory = std::function<ModuleWindow*(Process&)>;
     using SecondaryFactory = std::function<SecondaryWindow*(Process&)>;
 
-    WindowRegistry();
-    ~WindowRegistry();
+    explicit WindowRegistry(const platform::PendingEvents& events);
+    ~WindowRegistry() override;
 
     void addModule(Module module, ModuleFactory factory);
     void addSecondary(const std::string& name, SecondaryFactory factory);
 
-    /// The module's window; the first touch creates it and runs its load routine.
+    /// The module's window; the first touch creates it and runs its load routine. What runs inside the load may unload
+    /// it again.
     ModuleWindow& touch(Module module, Process& process);
 
     /// The secondary window of that name, created and loaded at its first touch.
@@ -44,7 +48,10 @@ public:
     ModuleWindow* loadedModule() const;
     const std::vector<ModuleWindow*>& loadedModules() const { return loadedModules_; }
 
-    /// Takes a module off the list and destroys it when control is back in the event loop.
+    bool isLoaded(const ModuleWindow& window) const;
+
+    /// Takes a window off the list. It is destroyed when control is back in the outermost event loop: a search or a
+    /// slide that let events run may still be at work in it.
     void release(ModuleWindow& window);
     void release(SecondaryWindow& window);
 
@@ -52,6 +59,11 @@ public:
     void unloadAll();
 
 private:
+    void bury(QWidget& window);
+    void destroyBuried();
+
+    const platform::PendingEvents& events_;
+    std::vector<QWidget*> buried_;
     std::map<Module, ModuleFactory> moduleFactories_;
     std::map<std::string, SecondaryFactory> secondaryFactories_;
     std::vector<ModuleWindow*> loadedModules_;

@@ -9,9 +9,9 @@
 #include "sky/time_zone_shift.h"
 #include "ui_frm_moon_phase.h"
 
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 
 namespace velmoriax::sky {
 
@@ -57,10 +57,9 @@ void FrmMoonPhase::tick() {
 }
 
 void FrmMoonPhase::refreshMoonDetails() {
-    const QPointer<FrmMoonPhase> self(this);
     const MoonDetails details =
         sky::refreshMoonDetails(MoonEngine(desktop().events), moonMoment_, showPrevious_, record().sky);
-    if (!self) return; // events have run inside, the end of this window among them
+    if (!isLoaded()) return; // events have run inside, the end of this window among them
     ui_->LabelDetall->setText(text(details.labelDetall));
     ui_->LabelInfo->setText(text(details.labelInfo));
     ui_->LabelResum->setText(text(details.labelResum));
@@ -69,17 +68,20 @@ void FrmMoonPhase::refreshMoonDetails() {
 
 void FrmMoonPhase::LabelDetall_Click() {
     showPrevious_ = !showPrevious_;
+    ui_->LabelAd->setText(text(moonListHint(!showPrevious_))); // the refresh writes over it at once
     refreshMoonDetails();
 }
 
 bool FrmMoonPhase::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::MouseButtonRelease) return SecondaryWindow::eventFilter(watched, event);
-    LabelDetall_Click();
+    const auto& mouse = static_cast<QMouseEvent&>(*event);
+    const bool inside = ui_->LabelDetall->rect().contains(mouse.position().toPoint());
+    if (mouse.button() == Qt::LeftButton && inside) LabelDetall_Click();
     return true;
 }
 
 void FrmMoonPhase::mouseMoveEvent(QMouseEvent* event) {
-    const bool overLabel = childAt(event->position().toPoint()) != nullptr;
+    const bool overLabel = qobject_cast<QLabel*>(childAt(event->position().toPoint())) != nullptr;
     if (!overLabel) unload();
 }
 

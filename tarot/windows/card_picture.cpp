@@ -12,6 +12,10 @@ void showCard(shell::PictureBox& place, const DrawnCard& drawn, const platform::
     if (!drawn.tip.empty()) place.setTip(QString::fromStdString(drawn.tip));
 }
 
+void showOwnBack(shell::PictureBox& place) {
+    place.setPicture(QImage(QStringLiteral(":/tarot/card_back.jpg")));
+}
+
 void showMajorBack(shell::PictureBox& place, const platform::Files& files) {
     place.setPicture(shell::loadPicture(files, majorBackPath(files.applicationDirectory())));
 }

@@ -16,7 +16,6 @@
 #include "ui_frm_calendar.h"
 
 #include <QFocusEvent>
-#include <QPointer>
 
 namespace velmoriax::tarot {
 
@@ -70,7 +69,7 @@ void FrmCalendar::connectControls() {
 
 void FrmCalendar::ownLoad() {
     ui_->Calendar1->setSelectedDate(toDate(base::civilDateOf(desktop().clock.now())));
-    showMajorBack(*ui_->Imgfechasel, desktop().files);
+    showOwnBack(*ui_->Imgfechasel);
     ui_->Calendar1->setFocus();
 }
 
@@ -100,9 +99,8 @@ void FrmCalendar::showSignOf(base::CivilDate date) {
 }
 
 void FrmCalendar::drawDateMoon(base::CivilDate date) {
-    const QPointer<FrmCalendar> self(this);
     const sky::DateMoon moon = sky::drawDateMoon(sky::MoonEngine(desktop().events), date, record().sky);
-    if (!self) return; // events have run inside, the end of this window among them
+    if (!isLoaded()) return; // events have run inside, the end of this window among them
     if (!moon.pictureName.empty())
         ui_->ImgLuna->setPicture(
             shell::moonPicture(desktop().files, moon.pictureName, record().options.holders.hemisferio));

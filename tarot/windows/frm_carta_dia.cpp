@@ -23,7 +23,6 @@
 #include "ui_frm_carta_dia.h"
 
 #include <QKeyEvent>
-#include <QPointer>
 
 #include <array>
 
@@ -52,6 +51,7 @@ void keepPlaceWhenHidden(QWidget& control) {
 FrmCartaDia::FrmCartaDia(shell::Process& process) :
     ModuleWindow(process, shell::Module::cardOfDay), ui_(std::make_unique<Ui::FrmCartaDia>()),
     krono_(kronoAfterMs, this), timerPlus_(this) {
+    record().sky.cardOfDaySign = {}; // the season that it told is not carried over to another window
     openTarotPictures();
     ui_->setupUi(this);
     dressControls();
@@ -115,10 +115,9 @@ void FrmCartaDia::ownLoad() {
     constexpr std::array steps{&FrmCartaDia::showDate,    &FrmCartaDia::showCardOfToday, &FrmCartaDia::showSignOfNow,
                                &FrmCartaDia::startTimers, &FrmCartaDia::drawDayMoon,     &FrmCartaDia::loadBirth,
                                &FrmCartaDia::DrawBioMedia};
-    const QPointer<FrmCartaDia> self(this);
     for (const auto step : steps) {
         (this->*step)();
-        if (!self) return; // events have run inside, the program's exit among them
+        if (!isLoaded()) return; // events have run inside, the program's exit among them
     }
 }
 
@@ -149,9 +148,8 @@ void FrmCartaDia::startTimers() {
 
 void FrmCartaDia::drawDayMoon() {
     const base::DateValue moment = sky::localToUniversal(desktop().clock.now(), desktop().zone);
-    const QPointer<FrmCartaDia> self(this);
     const std::string name = sky::drawDayMoon(sky::MoonEngine(desktop().events), moment, record().sky);
-    if (!self) return;
+    if (!isLoaded()) return;
     ui_->ImgLuna->setPicture(shell::moonPicture(desktop().files, name, record().options.holders.hemisferio));
 }
 
@@ -160,9 +158,10 @@ void FrmCartaDia::loadBirth() {
     biorhythm::loadBirth(desktop().files, record().bio);
     if (biorhythm::birthDateIsSet(record().bio)) return;
     record().alerts.alertText = welcome;
-    platform::Sounds& sounds = desktop().sounds; // the slide lets events run, the end of this window among them
-    if (process().notification) process().notification->slideUp(std::string(welcome));
-    sounds.playWav("Url.wav");
+    QTimer::singleShot(isVisible() ? 0 : shell::untilFirstWindowStandsMs, this, [&process = process()] {
+        if (process.notification) process.notification->show(std::string(welcome));
+        process.desktop.sounds.playWav("Url.wav");
+    });
 }
 
 void FrmCartaDia::DrawBioMedia() {
@@ -198,9 +197,8 @@ void FrmCartaDia::tickSecond() {
 
 void FrmCartaDia::showNewDay() {
     record().shell.refreshingView = true;
-    const QPointer<FrmCartaDia> self(this);
     load();
-    if (!self) return;
+    if (!isLoaded()) return;
     shell::Topmost(*this); // and so it stays: nothing lowers it again
     desktop().sounds.playWav("Trumpet.wav");
 }
@@ -243,11 +241,12 @@ void FrmCartaDia::showSignText() {
 void FrmCartaDia::clickMoon() {
     auto& details = process().windows.touch(sky::FrmMoonPhase::windowName, process());
     static_cast<sky::FrmMoonPhase&>(details).LabelDetall_Click();
-    if (!details.isVisible()) showMoonDetails();
+    if (details.isLoaded() && !details.isVisible()) showMoonDetails();
 }
 
 void FrmCartaDia::showMoonDetails() {
     auto& details = process().windows.touch(sky::FrmMoonPhase::windowName, process());
+    if (!details.isLoaded()) return; // the mouse has left the picture meanwhile
     details.adjustSize();
     const auto below = static_cast<int>(detailsBelowTop * details.height());
     details.move(shell::onScreen({QPoint(x() - ui_->ImgLuna->width(), y() + below), details.size()}).topLeft());

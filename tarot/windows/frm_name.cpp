@@ -48,7 +48,7 @@ bool FrmName::eventFilter(QObject* watched, QEvent* event) {
 
 void FrmName::ownLoad() {
     results_.load();
-    showMajorBack(*ui_->ImgNombre, desktop().files);
+    showOwnBack(*ui_->ImgNombre);
     ui_->Text1nom->setFocus();
 }
 

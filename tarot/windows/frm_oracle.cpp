@@ -263,11 +263,7 @@ void Frmoracle::followTimer() {
         timerMidi_.stop();
 }
 
-void Frmoracle::onHidden() {
-    stopMidi(sound_, desktop().media);
-}
-
-void Frmoracle::onUnload() {
+void Frmoracle::beforeClose() {
     stopMidi(sound_, desktop().media);
 }
 

@@ -37,8 +37,7 @@ public:
 protected:
     void ownLoad() override;
     void ownCommand(std::string_view name) override;
-    void onHidden() override;
-    void onUnload() override;
+    void beforeClose() override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

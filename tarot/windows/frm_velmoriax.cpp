@@ -45,7 +45,7 @@ void frmVelmoriax::connectControls() {
 
 void frmVelmoriax::ownLoad() {
     results_.load();
-    showMajorBack(*ui_->ImgVelmoriax, desktop().files);
+    showOwnBack(*ui_->ImgVelmoriax);
     ui_->text1->setFocus();
 }
 

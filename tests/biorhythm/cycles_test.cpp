@@ -119,7 +119,7 @@ TEST(Compatibility, NamesTheLevelByItsLowerBound) {
         Compatibility record;
         record.levelWord = "as before";
         record.meanPercent = mean;
-        niveles(record);
+        Niveles(record);
         EXPECT_EQ(record.levelWord, word) << mean;
     }
 }

@@ -90,7 +90,7 @@ struct SoundOnDisk : test::DiskFixture {
 };
 
 TEST_F(SoundOnDisk, PlaysEachWaveSoundOnce) {
-    Mixer mixer(supplied);
+    Mixer mixer(supplied, VELMORIAX_LIBRARY_DIR);
     for (const char* name : {"boop.wav", "Trumpet.wav", "Url.wav"}) {
         fs::remove(samples);
         mixer.playWav(name);
@@ -101,7 +101,7 @@ TEST_F(SoundOnDisk, PlaysEachWaveSoundOnce) {
 }
 
 TEST_F(SoundOnDisk, PlaysTheSuppliedSongUntilItIsSwitchedOff) {
-    Mixer mixer(supplied);
+    Mixer mixer(supplied, VELMORIAX_LIBRARY_DIR);
     const int device = mixer.open(suppliedSong);
     ASSERT_NE(device, 0);
     mixer.play(device);
@@ -115,7 +115,7 @@ TEST_F(SoundOnDisk, PlaysTheSuppliedSongUntilItIsSwitchedOff) {
 }
 
 TEST_F(SoundOnDisk, GoesRoundWhenTheSongHasEnded) {
-    Mixer mixer(files_);
+    Mixer mixer(files_, VELMORIAX_LIBRARY_DIR);
     test::FakeEvents events;
     test::FakeFiles memory;
     shell::OptionsStore options(memory);
@@ -145,7 +145,7 @@ TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutASong) {
         {song("damaged.mid", header + std::string(15, '\xFF')), "a track of rubbish"},
         {song("huge.mid", shortSong() + std::string(5U << 20U, '\0')), "larger than any song"},
     };
-    Mixer mixer(files_);
+    Mixer mixer(files_, VELMORIAX_LIBRARY_DIR);
     for (const auto& [path, why] : rows) {
         const int device = openQuickly(mixer, path);
         EXPECT_TRUE(comesTrue([&] { return mixer.mode(device) == Mode::none; })) << why;
@@ -162,7 +162,7 @@ TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutADeviceOrASoundFont) {
     for (const auto& [name, value] : test::Table<const char*, const char*>{
              {"SDL_AUDIODRIVER", "nosuchdriver"}, {"SDL_SOUNDFONTS", "/nonexistent/font.sf2"}}) {
         const test::Variable variable(name, value);
-        Mixer mixer(files_);
+        Mixer mixer(files_, VELMORIAX_LIBRARY_DIR);
         const int device = openQuickly(mixer, path);
         EXPECT_TRUE(comesTrue([&] { return mixer.mode(device) == Mode::none; })) << name;
     }
@@ -170,7 +170,7 @@ TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutADeviceOrASoundFont) {
 
 TEST_F(SoundOnDisk, EndsCleanlyWhileASongIsLoaded) {
     for (const auto pause : {0ms, 5ms, 40ms, 120ms}) {
-        Mixer mixer(supplied);
+        Mixer mixer(supplied, VELMORIAX_LIBRARY_DIR);
         const int device = mixer.open(suppliedSong);
         mixer.play(device);
         mixer.stop(device);

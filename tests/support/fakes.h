@@ -188,6 +188,9 @@ struct FakeNotification : platform::Notification {
         texts.push_back(text);
         open = opens;
     }
+    void show(const std::string& text) override {
+        if (!open) slideUp(text);
+    }
     void slideDown() override { open = false; }
     void close() override { open = false; }
     bool isOpen() const override { return open; }
@@ -207,11 +210,15 @@ struct FakeRandom : platform::RandomSource {
 
 struct FakeEvents : platform::PendingEvents {
     int runs = 0;
+    int depth = 0;
     std::function<void()> whatRuns;
     void letRun() override {
         ++runs;
+        ++depth;
         if (whatRuns) whatRuns();
+        --depth;
     }
+    bool areRunning() const override { return depth > 0; }
 };
 
 struct FakeTaskBar : platform::TaskBar {

@@ -41,6 +41,11 @@ inline std::string pictureBytes(QRgb mark, QPoint at = {}) {
     return bytes.toStdString();
 }
 
+/// The first pixel of the back that is part of the reading windows.
+inline QRgb ownBack() {
+    return QImage(QStringLiteral(":/tarot/card_back.jpg")).pixel(0, 0);
+}
+
 class WindowFixture : public testing::Test {
 protected:
     WindowFixture() { process.notification = &notification; }
@@ -104,10 +109,21 @@ protected:
     FakeNotification notification;
     FakeTaskBar taskBar;
     desktop::DesktopTray tray{QIcon()};
-    shell::DesktopServices services{clock, zone,      files,  sounds, media, opener,
-                                    boxes, autostart, events, random, tray,  taskBar};
+    shell::DesktopServices services{clock,
+                                    zone,
+                                    files,
+                                    sounds,
+                                    media,
+                                    opener,
+                                    boxes,
+                                    autostart,
+                                    events,
+                                    random,
+                                    tray,
+                                    taskBar,
+                                    VELMORIAX_LIBRARY_DIR};
     shell::ProcessRecord record{files};
-    shell::WindowRegistry windows;
+    shell::WindowRegistry windows{events};
     shell::Process process{record, services, windows};
 };
 

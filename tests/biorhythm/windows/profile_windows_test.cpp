@@ -27,6 +27,11 @@ struct WithProfiles : BioWindows {
     static void choose(const QWidget& window, int row) {
         control<QListWidget>(window, "ListProfiles").setCurrentRow(row);
     }
+    /// The list is the first that gets the focus when its window comes up.
+    static void takeFocus(const QWidget& window) {
+        QFocusEvent comes(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+        QCoreApplication::sendEvent(&control<QListWidget>(window, "ListProfiles"), &comes);
+    }
     QStringList offered() { return view.profileNames(); }
     std::size_t series() { return control<BioPlot>(view, "MSChart1").chart().seriesCount; }
 
@@ -53,6 +58,7 @@ struct CompatibilityWindow : WithProfiles {
 TEST_F(Profiles, DeleteTakesEveryLineThatHoldsTheChosenOne) {
     EXPECT_TRUE(record.shell.noTrayAdd);
     EXPECT_EQ(control<QListWidget>(list, "ListProfiles").count(), 3) << "blank lines are not listed";
+    takeFocus(list);
     press(list, "CmdBorrar");
     EXPECT_EQ(files.temporaryCount, 0) << "nothing is chosen";
     choose(list, 0);
@@ -122,7 +128,9 @@ TEST_F(Profiles, TellsWhatFailedAndLeavesTheList) {
 TEST_F(CompatibilityWindow, ComparesAndDrawsTheSecondProfile) {
     EXPECT_TRUE(record.shell.noTrayAdd);
     EXPECT_EQ(textOf(window, "LabelProMain"), "Main profile: Ann");
-    EXPECT_EQ(textOf(window, "LabelFis"), "Physical:");
+    takeFocus(window);
+    EXPECT_EQ(textOf(window, "LabelFis"), "Physical:") << "nobody is chosen yet";
+    EXPECT_TRUE(boxes.shown.empty());
     choose(window, 1);
     EXPECT_EQ(textOf(window, "LabelInfo"), "Complementarity between Ann and Bob for the day "
                                            "June/20/2026 18:30:00 (0-100 %):");

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/windows/second_timer.h"
 #include "shell/windows/window_place.h"
 #include "support/window_fixture.h"
 
+#include <QDateTime>
 #include <QScreen>
 
 namespace velmoriax::shell {
@@ -107,6 +109,19 @@ TEST_F(ModuleWindowTest, APlaceOnNoScreenComesBackOntoTheNearest) {
         moveToPlace(window, lost);
         EXPECT_TRUE(area.contains(window.pos())) << lost.left << ", " << lost.top;
     }
+}
+
+TEST(SecondTimer, TicksOnceInEachSecond) {
+    test::application();
+    SecondTimer timer(20, nullptr);
+    timer.begin();
+    EXPECT_TRUE(timer.interval() > 0 && timer.interval() <= 1020);
+    timer.stop();
+    const qint64 before = QDateTime::currentMSecsSinceEpoch();
+    QMetaObject::invokeMethod(&timer, "timeout");
+    const qint64 taken = QDateTime::currentMSecsSinceEpoch() - before;
+    EXPECT_TRUE(timer.isActive()) << "each tick sets the next";
+    EXPECT_LE((1020 - (before + timer.interval()) % 1000) % 1000, taken) << "20 ms after the second has begun";
 }
 
 TEST(PictureBox, AKeyThatCameFromElsewhereIsNoClick) {

@@ -217,8 +217,7 @@ TEST_F(NotifTest, TakenAwayOrEndedInTheMiddleTheSlideStopsAndTheWindowGoes) {
     EXPECT_FALSE(window());
     EXPECT_FALSE(sliding.isOpen());
     EXPECT_LT(events.runs, 70);
-    QCoreApplication::sendPostedEvents(first, QEvent::DeferredDelete);
-    EXPECT_FALSE(first);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !first; })) << "and destroyed when nothing slides any more";
 
     inTheMiddle([&] {
         record.shell.closingAll = true;

@@ -36,7 +36,7 @@ struct NamesWindow : ReadingWindows {
 };
 
 TEST_F(NumbersWindow, ShowsTheCardAndKeepsWhatTheResetLeaves) {
-    EXPECT_EQ(onShow(window, "ImgVelmoriax"), back);
+    EXPECT_EQ(onShow(window, "ImgVelmoriax"), test::ownBack());
     Q_EMIT picture.clicked();
     EXPECT_TRUE(boxes.shown.empty()) << "there is nothing to describe yet";
 
@@ -101,7 +101,7 @@ TEST_F(NamesWindow, WarnsOfEachFieldWithADigitAndReadsTheOthers) {
     type(window, "Text2nom", "3");
     press(window, "ARButtonAcep");
     EXPECT_EQ(boxes.shown.size(), 2U);
-    EXPECT_EQ(onShow(window, "ImgNombre"), back) << "nothing was left to read";
+    EXPECT_EQ(onShow(window, "ImgNombre"), test::ownBack()) << "nothing was left to read";
     EXPECT_FALSE(files.has("\\logs\\resNames.log"));
 
     type(window, "Text2ape", "José");
@@ -125,7 +125,7 @@ TEST_F(NamesWindow, EnterWalksThroughTheControlsAndPressesNone) {
         EXPECT_EQ(window.focusWidget()->objectName().toStdString(), name);
         QTest::keyClick(window.focusWidget(), Qt::Key_Return);
     }
-    EXPECT_EQ(onShow(window, "ImgNombre"), back) << "no button was pressed on the way";
+    EXPECT_EQ(onShow(window, "ImgNombre"), test::ownBack()) << "no button was pressed on the way";
     EXPECT_EQ(textOf(window, "Text1nom"), "José");
     EXPECT_TRUE(boxes.shown.empty());
 }
