@@ -60,8 +60,9 @@ bool personalTipMayStand(const ScreenMeasures& screen, int pointerY, bool taskBa
 }
 
 int personalTipLeft(const ScreenMeasures& screen, int windowWidth, int pointerX) {
-    const int farthest = std::max(screen.left, screen.left + screen.width - windowWidth);
-    return std::clamp(pointerX - windowWidth / 2, screen.left, farthest);
+    const int nearest = screen.left + screen.panelLeft;
+    const int farthest = std::max(nearest, screen.left + screen.width - screen.panelRight - windowWidth);
+    return std::clamp(pointerX - windowWidth / 2, nearest, farthest);
 }
 
 int personalTipTop(const ScreenMeasures& screen, int windowHeight) {

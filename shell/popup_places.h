@@ -7,7 +7,7 @@
 /// in pixels.
 namespace velmoriax::shell {
 
-/// The screen that a small window belongs to, in pixels, with what panels keep for themselves at two of its edges.
+/// The screen that a small window belongs to, in pixels, with what panels keep for themselves at three of its edges.
 struct ScreenMeasures {
     int left = 0;
     int top = 0;
@@ -15,6 +15,7 @@ struct ScreenMeasures {
     int height = 0;
     int panelRight = 0;
     int panelBottom = 0;
+    int panelLeft = 0;
 };
 
 /// The three backs of the notification.
@@ -46,7 +47,8 @@ int notifGone(const ScreenMeasures& screen, int windowHeight);
 /// of the screen.
 bool personalTipMayStand(const ScreenMeasures& screen, int pointerY, bool taskBarAtBottom);
 
-/// Centred over the pointer, and moved aside as far as it takes to be seen whole: the icon is often near a corner.
+/// Centred over the pointer, and moved aside as far as it takes to be seen whole, since the icon is often near a corner,
+/// and to leave a panel at the left or right free: over the icon the pointer would take it away at once.
 int personalTipLeft(const ScreenMeasures& screen, int windowWidth, int pointerX);
 
 /// 2150 twips above the bottom edge of the screen, and higher only where a window that a large font has made tall, or

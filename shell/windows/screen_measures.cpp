@@ -16,7 +16,8 @@ ScreenMeasures measuresOf(const QScreen* screen) {
             whole.width(),
             whole.height(),
             whole.right() - work.right(),
-            whole.bottom() - work.bottom()};
+            whole.bottom() - work.bottom(),
+            work.left() - whole.left()};
 }
 
 } // namespace velmoriax::shell

@@ -7,7 +7,7 @@ class QScreen;
 
 namespace velmoriax::shell {
 
-/// A screen with what panels take of it at the right and at the bottom. All zeros for no screen.
+/// A screen with what panels take of it at the right, at the bottom and at the left. All zeros for no screen.
 ScreenMeasures measuresOf(const QScreen* screen);
 
 } // namespace velmoriax::shell

@@ -19,6 +19,11 @@ options() {
 options ''
 printf '15,3,1980\r\n' > "$program_folder/bio.dat"
 
+# The first key of a new server changes the keyboard, at which the window manager grabs its keys anew: a key pressed in
+# that moment does not reach it.
+xdotool key Shift_L
+sleep 0.3
+
 program=''
 panel='' # of a test that keeps its own
 
@@ -75,6 +80,8 @@ window_titles() {
   done
 }
 
+# grep reads to the end: one that leaves early would end the list with a broken pipe, which counts as a failure.
+has_window() { window_titles | grep -x "$1" > /dev/null; }
 window_is() { [ "$(window_titles)" = "$1" ]; }
 no_window() { [ -z "$(window_titles)" ]; }
 press_in() { # TITLE KEY: gives the window the focus, as a user does before he types

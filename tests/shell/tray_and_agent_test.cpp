@@ -178,6 +178,9 @@ TEST(PopupPlaces, PersonalTipStandsOverTheLowestTwentieth) {
     EXPECT_EQ(personalTipLeft(screen, 400, 700), 500);
     EXPECT_EQ(personalTipLeft(screen, 400, 1250), 880) << "whole on the screen";
     EXPECT_EQ(personalTipLeft(screen, 400, 10), 0);
+    const ScreenMeasures betweenPanels{0, 0, 1280, 1000, 50, 0, 60};
+    EXPECT_EQ(personalTipLeft(betweenPanels, 400, 30), 60) << "not over the icon";
+    EXPECT_EQ(personalTipLeft(betweenPanels, 400, 1260), 830);
 }
 
 struct BackgroundAgent : testing::Test {
