@@ -5,8 +5,7 @@
 #include "base/rounding.h"
 #include "base/run_time_error.h"
 #include "base/western_text.h"
-
-#include <gtest/gtest.h>
+#include "support/helpers.h"
 
 #include <limits>
 
@@ -14,22 +13,15 @@ namespace velmoriax::base {
 namespace {
 
 TEST(Rounding, TiesGoToTheEvenNeighbour) {
-    EXPECT_EQ(nearest(0.5), 0);
-    EXPECT_EQ(nearest(1.5), 2);
-    EXPECT_EQ(nearest(-2.5), -2);
+    for (const auto& [value, rounded] : test::Table<double, int>{{0.5, 0}, {1.5, 2}, {-2.5, -2}})
+        EXPECT_EQ(nearest(value), rounded);
     EXPECT_EQ(nearestInt16(32767.4), 32767);
     for (const double outside : {32767.5, -32768.6, std::numeric_limits<double>::quiet_NaN()})
         EXPECT_THROW(nearestInt16(outside), RunTimeError) << outside;
 }
 
 TEST(NumberText, FixedDecimalsRoundTheExactExpansionAwayFromZero) {
-    struct Row {
-        double value;
-        int decimals;
-        const char* text;
-        const char* reason;
-    };
-    const Row rows[] = {
+    const test::Table<double, int, const char*, const char*> rows{
         {0.125, 2, "0.13", "exactly on the half"},
         {-0.125, 2, "-0.13", "and away from zero below it"},
         {1.005, 2, "1.00", "below the half in binary, though it prints as 1.005"},
@@ -40,17 +32,13 @@ TEST(NumberText, FixedDecimalsRoundTheExactExpansionAwayFromZero) {
         {1e15, 2, "1000000000000000.00", "large"},
         {4503599627370497.5, 0, "4503599627370498", "the largest halves"},
     };
-    for (const Row& row : rows) EXPECT_EQ(formatFixed(row.value, row.decimals), row.text) << row.reason;
+    for (const auto& [value, decimals, text, why] : rows) EXPECT_EQ(formatFixed(value, decimals), text) << why;
 }
 
-TEST(NumberText, WholeOrEmptyIsEmptyForWhatRoundsToZero) {
-    EXPECT_EQ(formatWholeOrEmpty(0.4999), "");
-    EXPECT_EQ(formatWholeOrEmpty(-0.4), "");
-    EXPECT_EQ(formatWholeOrEmpty(0.5), "1");
-    EXPECT_EQ(formatWholeOrEmpty(99.5), "100");
-}
-
-TEST(NumberText, PlainNumbersReadBack) {
+TEST(NumberText, EmptyForWhatRoundsToZeroAndPlainNumbersReadBack) {
+    for (const auto& [value, text] :
+         test::Table<double, const char*>{{0.4999, ""}, {-0.4, ""}, {0.5, "1"}, {99.5, "100"}})
+        EXPECT_EQ(formatWholeOrEmpty(value), text);
     for (const float value : {0.0F, 75.3F, 0.1F, -4.35F, 100.0F, 49.995F, 1234567.0F, 480000.0F})
         EXPECT_EQ(std::stof(plainNumberText(value)), value);
     EXPECT_EQ(plainNumberText(75.3F), "75.3");
@@ -74,8 +62,7 @@ TEST(DateText, FormsAreFixed) {
     EXPECT_EQ(longDateText({2026, 11, 15}), "Sunday, November 15, 2026");
     EXPECT_EQ(longDateTextWithoutComma({2026, 11, 15}), "Sunday, November 15 2026");
     EXPECT_EQ(weekdayRuler(5), "Jupiter");
-    EXPECT_EQ(monthNameEnglish(0), "");
-    EXPECT_EQ(monthNameEnglish(13), "");
+    for (const int outside : {0, 13}) EXPECT_EQ(monthNameEnglish(outside), "");
     EXPECT_EQ(monthOfEnglishName("march"), std::nullopt) << "month names are matched exactly";
 }
 
@@ -89,13 +76,10 @@ TEST(DateText, ReadsWhatItWritesAndNothingElse) {
         EXPECT_FALSE(readDateTime(bad)) << bad;
 }
 
-TEST(WesternText, EveryByteComesBack) {
+TEST(WesternText, EveryByteComesBackAndWhatTheCodePageLacksIsMarked) {
     std::string all;
     for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
     EXPECT_EQ(toWestern(fromWestern(all)), all);
-}
-
-TEST(WesternText, ComposesAccentsAndMarksWhatItLacks) {
     EXPECT_EQ(toWestern("Mari\xCC\x81"), toWestern("Mar\xC3\xAD")) << "decomposed i with acute";
     EXPECT_EQ(toWestern("n\xCC\x83"), "\xF1");
     EXPECT_EQ(toWestern("€"), "\x80");
@@ -111,11 +95,6 @@ TEST(PercentOf, ItsOddAnswers) {
     EXPECT_EQ(percentOf(0, 50), 0.0F);
     EXPECT_EQ(percentOf(0, -1), -1.0F) << "the first test wins";
     EXPECT_EQ(percentOf(-1, 0), 0.0F) << "no finite result";
-}
-
-TEST(RunTimeError, SpeaksThePlatformsWords) {
-    const RunTimeError error(RunTimeError::Code::fileNotFound, "bio.dat");
-    EXPECT_EQ(error.message(), "Run-time error '53': File not found\nbio.dat");
 }
 
 } // namespace

@@ -3,18 +3,13 @@
 #include "biorhythm/bio_view.h"
 #include "biorhythm/profile_files.h"
 #include "biorhythm/stepper_dates.h"
-#include "tests/support/fakes.h"
-
-#include <gtest/gtest.h>
+#include "support/fakes.h"
 
 namespace velmoriax::biorhythm {
-
 namespace {
 
 const base::DateValue evening = base::dateValueOf({2026, 6, 20}, {18, 30, 0});
 constexpr base::CivilMoment birth{{1980, 3, 15}, {7, 45, 0}};
-
-} // namespace
 
 TEST(StepperDates, CountEveryCenturyYearAsACommonOne) {
     EXPECT_EQ(stepperDays(2024, 2), 29);
@@ -115,4 +110,5 @@ TEST(BioChart, DrawsASecondPersonOnlyOfTwo) {
     EXPECT_EQ(chart.chartData[readingRow - 1][cycleCount + physical], 0.0F) << "born a day before the reading";
 }
 
+} // namespace
 } // namespace velmoriax::biorhythm

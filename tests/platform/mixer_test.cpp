@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/mixer.h"
-
-#include "support/fakes.h"
+#include "support/disk_fixture.h"
 #include "tarot/ambient_sound.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <chrono>
-#include <cstdlib>
-#include <fstream>
 #include <thread>
-#include <unistd.h>
 
 namespace velmoriax::desktop {
 namespace {
@@ -28,21 +22,17 @@ std::string shortSong() {
 }
 
 /// The mixer on a sound device that writes its samples into a file, so that a test can hear.
-struct SoundOnDisk : testing::Test {
-    fs::path folder = fs::temp_directory_path() / ("velmoriax-sound-" + std::to_string(::getpid()));
-    fs::path samples = folder / "samples";
-
-    SoundOnDisk() {
-        fs::create_directories(folder);
-        ::setenv("SDL_AUDIODRIVER", "disk", 1);
-        ::setenv("SDL_DISKAUDIOFILE", samples.c_str(), 1);
-        ::unsetenv("SDL_SOUNDFONTS");
-    }
-    ~SoundOnDisk() override { fs::remove_all(folder); }
+struct SoundOnDisk : test::DiskFixture {
+    fs::path samples = root_ / "samples";
+    test::Variable driver{"SDL_AUDIODRIVER", "disk"};
+    test::Variable device{"SDL_DISKAUDIOFILE", samples};
+    test::Variable noFont{"SDL_SOUNDFONTS", ""};
+    DiskFiles supplied{{VELMORIAX_DATA_DIR, VELMORIAX_DATA_DIR}};
+    std::string suppliedSong = supplied.applicationDirectory() + "\\Are You Lonesome Tonight.mid";
 
     std::string song(const std::string& name, const std::string& bytes) const {
-        std::ofstream(folder / name, std::ios::binary) << bytes;
-        return (folder / name).string();
+        write(root_ / name, bytes);
+        return root_ / name;
     }
     std::uintmax_t length() const {
         std::error_code error;
@@ -89,29 +79,30 @@ struct SoundOnDisk : testing::Test {
             return !soundsBehind(start);
         });
     }
+    /// Whether the device closes: the file grows no more.
+    bool comesToRest() const {
+        return comesTrue([this] {
+            const auto before = length();
+            std::this_thread::sleep_for(300ms);
+            return length() == before;
+        });
+    }
 };
 
 TEST_F(SoundOnDisk, PlaysEachWaveSoundOnce) {
-    const DiskFiles files({VELMORIAX_DATA_DIR, VELMORIAX_DATA_DIR});
-    Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
+    Mixer mixer(supplied, VELMORIAX_LIBRARY_DIR);
     for (const char* name : {"boop.wav", "Trumpet.wav", "Url.wav"}) {
         fs::remove(samples);
         mixer.playWav(name);
         EXPECT_TRUE(isHeard()) << name;
         EXPECT_TRUE(fallsSilent()) << name;
-        // The device closes after a while of silence: the file grows no more.
-        EXPECT_TRUE(comesTrue([this] {
-            const auto before = length();
-            std::this_thread::sleep_for(300ms);
-            return length() == before;
-        })) << name;
+        EXPECT_TRUE(comesToRest()) << name;
     }
 }
 
 TEST_F(SoundOnDisk, PlaysTheSuppliedSongUntilItIsSwitchedOff) {
-    const DiskFiles files({VELMORIAX_DATA_DIR, VELMORIAX_DATA_DIR});
-    Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
-    const int device = mixer.open(files.applicationDirectory() + "\\Are You Lonesome Tonight.mid");
+    Mixer mixer(supplied, VELMORIAX_LIBRARY_DIR);
+    const int device = mixer.open(suppliedSong);
     ASSERT_NE(device, 0);
     mixer.play(device);
     EXPECT_EQ(mixer.mode(device), Mode::playing);
@@ -124,12 +115,11 @@ TEST_F(SoundOnDisk, PlaysTheSuppliedSongUntilItIsSwitchedOff) {
 }
 
 TEST_F(SoundOnDisk, GoesRoundWhenTheSongHasEnded) {
-    const DiskFiles files({folder, folder});
-    Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
+    Mixer mixer(files_, VELMORIAX_LIBRARY_DIR);
     test::FakeEvents events;
     test::FakeFiles memory;
     shell::OptionsStore options(memory);
-    const tarot::AmbientServices services{mixer, events, options, folder.string()};
+    const tarot::AmbientServices services{mixer, events, options, root_.string()};
     tarot::AmbientSound sound;
     tarot::openMidiDevice(sound, song("short.mid", shortSong()), services);
     ASSERT_TRUE(isHeard());
@@ -145,9 +135,9 @@ TEST_F(SoundOnDisk, GoesRoundWhenTheSongHasEnded) {
 
 TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutASong) {
     const std::string header = shortSong().substr(0, 22);
-    const std::pair<std::string, const char*> cases[]{
-        {(folder / "missing.mid").string(), "missing"},
-        {folder.string(), "a folder"},
+    const test::Table<std::string, const char*> rows{
+        {root_ / "missing.mid", "missing"},
+        {root_, "a folder"},
         {song("empty.mid", ""), "empty"},
         {song("text.mid", "no song at all"), "not MIDI"},
         {song("wave.mid", "RIFF\x24\0\0\0WAVEfmt "), "another kind of sound"},
@@ -155,41 +145,33 @@ TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutASong) {
         {song("damaged.mid", header + std::string(15, '\xFF')), "a track of rubbish"},
         {song("huge.mid", shortSong() + std::string(5U << 20U, '\0')), "larger than any song"},
     };
-    const DiskFiles files({folder, folder});
-    Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
-    for (const auto& [path, why] : cases) {
-        fs::remove(samples);
+    Mixer mixer(files_, VELMORIAX_LIBRARY_DIR);
+    for (const auto& [path, why] : rows) {
         const int device = openQuickly(mixer, path);
         EXPECT_TRUE(comesTrue([&] { return mixer.mode(device) == Mode::none; })) << why;
         EXPECT_FALSE(soundsBehind(0)) << why;
         mixer.close(device);
     }
-    mixer.playWav("missing.wav");
-    mixer.playWav("text.mid");
+    for (const char* name : {"missing.wav", "text.mid"}) mixer.playWav(name);
     EXPECT_TRUE(fallsSilent());
+    EXPECT_FALSE(soundsBehind(0));
 }
 
 TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutADeviceOrASoundFont) {
     const std::string path = song("short.mid", shortSong());
-    const std::pair<const char*, const char*> cases[]{{"SDL_AUDIODRIVER", "nosuchdriver"},
-                                                      {"SDL_SOUNDFONTS", "/nonexistent/font.sf2"}};
-    for (const auto& [variable, value] : cases) {
-        const char* before = std::getenv(variable);
-        const std::string kept = before ? before : "";
-        ::setenv(variable, value, 1);
-        const DiskFiles files({folder, folder});
-        Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
+    for (const auto& [name, value] : test::Table<const char*, const char*>{
+             {"SDL_AUDIODRIVER", "nosuchdriver"}, {"SDL_SOUNDFONTS", "/nonexistent/font.sf2"}}) {
+        const test::Variable variable(name, value);
+        Mixer mixer(files_, VELMORIAX_LIBRARY_DIR);
         const int device = openQuickly(mixer, path);
-        EXPECT_TRUE(comesTrue([&] { return mixer.mode(device) == Mode::none; })) << variable;
-        ::setenv(variable, kept.c_str(), 1);
+        EXPECT_TRUE(comesTrue([&] { return mixer.mode(device) == Mode::none; })) << name;
     }
 }
 
 TEST_F(SoundOnDisk, EndsCleanlyWhileASongIsLoaded) {
-    const DiskFiles files({VELMORIAX_DATA_DIR, VELMORIAX_DATA_DIR});
     for (const auto pause : {0ms, 5ms, 40ms, 120ms}) {
-        Mixer mixer(files, VELMORIAX_LIBRARY_DIR);
-        const int device = mixer.open(files.applicationDirectory() + "\\Are You Lonesome Tonight.mid");
+        Mixer mixer(supplied, VELMORIAX_LIBRARY_DIR);
+        const int device = mixer.open(suppliedSong);
         mixer.play(device);
         mixer.stop(device);
         mixer.play(device);

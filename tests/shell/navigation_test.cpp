@@ -4,40 +4,32 @@
 #include "shell/window_position.h"
 #include "support/fakes.h"
 
-#include <gtest/gtest.h>
-
 #include <set>
 
 namespace velmoriax::shell {
 namespace {
 
-std::set<Module> targetsOf(std::span<const MenuEntry> entries) {
-    std::set<Module> targets;
-    for (const MenuEntry& entry : entries)
-        if (entry.command == Command::goTo) targets.insert(entry.target);
-    return targets;
+/// Checks that some entries lead to all modules but their own.
+void expectFiveOthers(const ModuleRow& row, const std::set<Module>& targets) {
+    EXPECT_EQ(targets.size(), 5U) << row.windowName;
+    EXPECT_FALSE(targets.contains(row.module)) << row.windowName;
 }
 
-TEST(Navigation, EveryPopupLeadsToTheFiveOthersAndOut) {
+TEST(Navigation, EveryPopupAndEachWindowsOwnControlsLeadToTheFiveOthers) {
     for (const ModuleRow& row : modules) {
-        const auto& entries = navigationOf(row.module).iconMenu.entries;
-        const std::set<Module> targets = targetsOf(entries);
-        EXPECT_EQ(targets.size(), 5U) << row.windowName;
-        EXPECT_FALSE(targets.contains(row.module)) << row.windowName;
-        EXPECT_EQ(entries.back().command, Command::exit) << row.windowName;
-        EXPECT_EQ(entries.back().caption, "Exit");
-    }
-}
-
-TEST(Navigation, EachWindowLeadsToTheFiveOthersByItsOwnControls) {
-    for (const ModuleRow& row : modules) {
-        const ModuleNavigation& navigation = navigationOf(row.module);
-        std::set<Module> targets;
-        for (const ButtonRow& button : navigation.buttons)
-            if (button.command == Command::goTo) targets.insert(button.target);
-        for (const Menu& menu : navigation.mainMenus) targets.merge(targetsOf(menu.entries));
-        EXPECT_EQ(targets.size(), 5U) << row.windowName;
-        EXPECT_FALSE(targets.contains(row.module)) << row.windowName;
+        const auto& [module, buttons, mainMenus, iconMenu] = navigationOf(row.module);
+        std::set<Module> byPopup, byWindow;
+        const auto take = [](std::set<Module>& targets, const auto& entries) {
+            for (const auto& entry : entries)
+                if (entry.command == Command::goTo) targets.insert(entry.target);
+        };
+        take(byPopup, iconMenu.entries);
+        take(byWindow, buttons);
+        for (const Menu& menu : mainMenus) take(byWindow, menu.entries);
+        expectFiveOthers(row, byPopup);
+        expectFiveOthers(row, byWindow);
+        EXPECT_EQ(iconMenu.entries.back().command, Command::exit) << row.windowName;
+        EXPECT_EQ(iconMenu.entries.back().caption, "Exit");
     }
 }
 
@@ -55,7 +47,7 @@ TEST(Modules, OnlyTheCardOfDayKnowsNoVerdadero) {
     }
 }
 
-TEST(WindowPosition, FourZerosKeepTheDesignedPlaceAndOneValueDoesNot) {
+TEST(WindowPosition, FourZerosKeepTheDesignedPlaceAndWhatIsStoredComesBack) {
     test::FakeFiles files;
     OptionsStore options(files);
     EXPECT_FALSE(storedPlace(options));
@@ -63,11 +55,6 @@ TEST(WindowPosition, FourZerosKeepTheDesignedPlaceAndOneValueDoesNot) {
     EXPECT_EQ(storedPlace(options), (WindowPlace{0, 6, 0, 0}));
     files.at("\\opciones.ini") = "[Posici\xF3n]\r\nVelmoriaxcod_Left=1e9\r\nVelmoriaxcod_Width=99999999999999\r\n";
     EXPECT_EQ(storedPlace(options), (WindowPlace{1, 0, 2147483647, 0})) << "leading digits; beyond 32 bits to the end";
-}
-
-TEST(WindowPosition, WhatIsStoredComesBack) {
-    test::FakeFiles files;
-    OptionsStore options(files);
     const WindowPlace place{-150, 57600, 11400, 8400};
     storePlace(options, place);
     EXPECT_EQ(storedPlace(options), place);

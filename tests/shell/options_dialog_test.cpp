@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/western_text.h"
 #include "shell/options_dialog.h"
 #include "support/fakes.h"
-
-#include "base/western_text.h"
-
-#include <gtest/gtest.h>
 
 namespace velmoriax::shell {
 namespace {
@@ -19,8 +16,7 @@ constexpr const char* wholeFile =
     "tipocartas=marsellaone\r\nModo Silencioso=nomudo\r\nMute cod=nomuted\r\nBackground Sound=NoBgSound\r\n"
     "Minimizar=systray\r\n";
 
-class OptionsDialogTest : public testing::Test {
-protected:
+struct OptionsDialogTest : testing::Test {
     void write(std::string_view utf8) { files_.at("\\opciones.ini") = base::toWestern(utf8); }
     std::string option(std::string_view key) const { return record_.options.option(key); }
     OptionHolders& holders() { return record_.options.holders; }
@@ -53,13 +49,7 @@ TEST_F(OptionsDialogTest, AnEmptyFileShowsTheDefaults) {
 }
 
 TEST_F(OptionsDialogTest, StoredValuesAreComparedExactly) {
-    struct Row {
-        const char* line;
-        O option;
-        bool on;
-        const char* reason;
-    };
-    const Row rows[] = {
+    const test::Table<std::string, O, bool, const char*> rows{
         {"Tirada=real", O::OptReal, true, "the one text of the real throw"},
         {"Tirada=Real", O::OptObj, true, "another case is another text"},
         {"Iniciar con Windows=True", O::CheckWin, true, "on"},
@@ -78,23 +68,17 @@ TEST_F(OptionsDialogTest, StoredValuesAreComparedExactly) {
         {"Minimizar=toolbar", O::OptionToolbar, true, "toolbar"},
         {"Minimizar=x", O::OptionSystray, true, "the dialog shows the tray where the start takes the toolbar"},
     };
-    for (const Row& row : rows) {
-        write(std::string("[opciones]\r\n") + row.line + "\r\n");
+    for (const auto& [line, option, on, why] : rows) {
+        write("[opciones]\r\n" + line + "\r\n");
         OptionsDialog dialog{record_, {autostart_, boxes_, taskBar_}};
         open(dialog);
-        EXPECT_EQ(dialog.state()[row.option].on, row.on) << row.line << ": " << row.reason;
+        EXPECT_EQ(dialog.state()[option].on, on) << line << ": " << why;
     }
 }
 
 TEST_F(OptionsDialogTest, AClickWritesItsKeyAndTheHolderThatActsAtOnce) {
-    struct Row {
-        O option;
-        std::string_view key;
-        const char* value;
-        std::string OptionHolders::*holder;
-    };
     using H = OptionHolders;
-    const Row rows[] = {
+    const test::Table<O, std::string_view, const char*, std::string H::*> rows{
         {O::CheckMini, key::iniciarMinimizado, "True", nullptr},
         {O::CheckMini, key::iniciarMinimizado, "False", nullptr},
         {O::OptReal, key::tirada, "real", nullptr},
@@ -118,11 +102,11 @@ TEST_F(OptionsDialogTest, AClickWritesItsKeyAndTheHolderThatActsAtOnce) {
     };
     write(wholeFile);
     open(dialog_);
-    for (const Row& row : rows) {
-        dialog_.click(row.option);
-        EXPECT_EQ(option(row.key), row.value) << controlName(row.option);
-        if (row.holder) EXPECT_EQ(holders().*row.holder, row.value) << controlName(row.option);
-        if (row.key == key::tirada) EXPECT_EQ(record_.oracle.realThrow, row.option == O::OptReal);
+    for (const auto& [control, name, value, holder] : rows) {
+        dialog_.click(control);
+        EXPECT_EQ(option(name), value) << controlName(control);
+        if (holder) EXPECT_EQ(holders().*holder, value) << controlName(control);
+        if (name == key::tirada) EXPECT_EQ(record_.oracle.realThrow, control == O::OptReal);
     }
     EXPECT_EQ(files_.at("\\opciones.ini"), base::toWestern(wholeFile)) << "each change went to its own line, and back";
 }

@@ -4,20 +4,11 @@
 #include "shell/profile_text.h"
 #include "support/fakes.h"
 
-#include "base/western_text.h"
-
-#include <gtest/gtest.h>
-
 namespace velmoriax::shell {
 namespace {
 
 TEST(ProfileText, ReadsTheFormatWithAllItsHabits) {
-    struct Row {
-        std::string file;
-        std::string value;
-        const char* reason;
-    };
-    const Row rows[] = {
+    const test::Table<std::string, std::string, const char*> rows{
         {"[opciones]\r\nMinimizar=toolbar\r\n", "toolbar", "the plain case"},
         {"[OPCIONES]\nminimizar=toolbar", "toolbar", "any case, LF alone, no line end at the last line"},
         {"  [ opciones ] \r\n  Minimizar  =  toolbar  \r\n", "toolbar", "blanks around section, name and value"},
@@ -31,16 +22,11 @@ TEST(ProfileText, ReadsTheFormatWithAllItsHabits) {
         {std::string("[opciones]\r\nMinimizar=ab\0cd\r\n", 30), "ab", "a NUL ends a value"},
         {std::string(5000, '\0') + "\n[opciones]\nMinimizar=x\n", "x", "noise before"},
     };
-    for (const Row& row : rows) EXPECT_EQ(profileValue(row.file, "opciones", "Minimizar"), row.value) << row.reason;
+    for (const auto& [file, value, why] : rows) EXPECT_EQ(profileValue(file, "opciones", "Minimizar"), value) << why;
 }
 
 TEST(ProfileText, AWriteChangesThatOneLineAlone) {
-    struct Row {
-        std::string before;
-        std::string after;
-        const char* reason;
-    };
-    const Row rows[] = {
+    const test::Table<std::string, std::string, const char*> rows{
         {"", "[s]\r\nk=v\r\n", "a new file"},
         {"[s]\nother=1\n", "[s]\nother=1\nk=v\n", "the file's own line ends"},
         {"[s]\r\nK = old\r\nz=1\r\n", "[s]\r\nK =v\r\nz=1\r\n", "in place, under the name as it stands"},
@@ -49,17 +35,16 @@ TEST(ProfileText, AWriteChangesThatOneLineAlone) {
         {"\xFFjunk\r\n[t]\r\nx", "\xFFjunk\r\n[t]\r\nx\r\n[s]\r\nk=v\r\n", "unknown bytes stay"},
         {"[s]\r\nk=old", "[s]\r\nk=v", "a last line without its end keeps none"},
     };
-    for (const Row& row : rows) EXPECT_EQ(withProfileValue(row.before, "s", "k", "v"), row.after) << row.reason;
+    for (const auto& [before, after, why] : rows) EXPECT_EQ(withProfileValue(before, "s", "k", "v"), after) << why;
     EXPECT_EQ(withProfileValue("", "s", "k", "a\r\n[x]"), "[s]\r\nk=a\r\n") << "a value cannot smuggle in a line";
 }
 
-class OptionsStoreTest : public testing::Test {
-protected:
+struct OptionsStoreTest : testing::Test {
     test::FakeFiles files_;
     OptionsStore options_{files_};
 };
 
-TEST_F(OptionsStoreTest, NamesWithAccentsAreOneByteALetter) {
+TEST_F(OptionsStoreTest, NamesWithAccentsAreOneByteALetterAndAValueIsCutAt254) {
     options_.setOption(key::moduloInicial, "Oracle");
     EXPECT_EQ(files_.at("\\opciones.ini"), "[opciones]\r\nM\xF3"
                                            "dulo Inicial=Oracle\r\n");
@@ -67,9 +52,6 @@ TEST_F(OptionsStoreTest, NamesWithAccentsAreOneByteALetter) {
     EXPECT_EQ(options_.holders.moduloInicial, "Oracle");
     EXPECT_EQ(options_.readProfileString(optionsSection, key::moduloInicial, "/home/ann/velmoriax\\Opciones.ini"),
               "Oracle");
-}
-
-TEST_F(OptionsStoreTest, AValueIsCutAt254Characters) {
     options_.setOption(key::songAmbient, std::string(253, 'a') + "ññ" + std::string(50, 'b'));
     EXPECT_EQ(options_.option(key::songAmbient), std::string(253, 'a') + "ñ");
 }

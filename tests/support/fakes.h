@@ -15,33 +15,29 @@
 #include "platform/sounds.h"
 #include "platform/task_bar.h"
 #include "platform/time_zone.h"
+#include "support/helpers.h"
 
 #include <deque>
 #include <functional>
 #include <map>
 #include <set>
-#include <string>
-#include <vector>
 
 /// Stand-ins for the desktop that a test moves by hand.
 namespace velmoriax::test {
 
-class FakeClock : public platform::Clock {
-public:
+struct FakeClock : platform::Clock {
     base::DateValue moment = base::dateValueOf({2026, 11, 15}, {12, 0, 0});
     base::DateValue now() const override { return moment; }
     void set(base::CivilDate date, base::CivilTime time = {}) { moment = base::dateValueOf(date, time); }
 };
 
-class FakeZone : public platform::TimeZone {
-public:
+struct FakeZone : platform::TimeZone {
     platform::ZoneInfo info{platform::ZoneInfo::State::standard, 0, 0};
     platform::ZoneInfo current() const override { return info; }
 };
 
 /// Files in memory, under the paths of the file system.
-class FakeFiles : public platform::Files {
-public:
+struct FakeFiles : platform::Files {
     std::string directory = "/home/ann/velmoriax";
     std::map<std::string, std::string> contents; ///< by file-system path
     std::set<std::string> unreadable;
@@ -93,15 +89,13 @@ private:
     std::string native(const std::string& path) const { return platform::fileSystemPath(path, directory); }
 };
 
-class FakeSounds : public platform::Sounds {
-public:
+struct FakeSounds : platform::Sounds {
     std::vector<std::string> played;
     void playWav(const std::string& name) override { played.push_back(name); }
 };
 
 /// A song player by hand: only the songs laid ready can be opened, and `ends` brings the one that plays to its end.
-class FakeMedia : public platform::Media {
-public:
+struct FakeMedia : platform::Media {
     std::set<std::string> songs;
     std::vector<std::string> starts; ///< the songs in the order in which they began to play
     int opens = 0;
@@ -133,8 +127,7 @@ public:
     void closeAll() override { openDevice = 0; }
 };
 
-class FakeOpener : public platform::DocumentOpener {
-public:
+struct FakeOpener : platform::DocumentOpener {
     std::vector<std::string> opened;
     bool open(const std::string& target) override {
         opened.push_back(target);
@@ -143,8 +136,7 @@ public:
 };
 
 /// Records the boxes and answers from what the test laid ready; with nothing ready, No and cancel.
-class FakeBoxes : public platform::MessageBoxes {
-public:
+struct FakeBoxes : platform::MessageBoxes {
     struct Shown {
         platform::BoxIcon icon;
         std::string text;
@@ -185,8 +177,10 @@ private:
     }
 };
 
-class FakeNotification : public platform::Notification {
-public:
+/// The boxes of a test, in their order.
+using Shown = std::vector<FakeBoxes::Shown>;
+
+struct FakeNotification : platform::Notification {
     std::vector<std::string> texts;
     bool open = false;
     bool opens = true; ///< whether a slide ends with the window standing
@@ -202,8 +196,7 @@ public:
     bool isOpen() const override { return open; }
 };
 
-class FakeRandom : public platform::RandomSource {
-public:
+struct FakeRandom : platform::RandomSource {
     std::deque<float> numbers; ///< handed out in order; 0 when none is left
     int seeds = 0;
     void seedFromClock() override { ++seeds; }
@@ -215,8 +208,7 @@ public:
     }
 };
 
-class FakeEvents : public platform::PendingEvents {
-public:
+struct FakeEvents : platform::PendingEvents {
     int runs = 0;
     int depth = 0;
     std::function<void()> whatRuns;
@@ -229,14 +221,12 @@ public:
     bool areRunning() const override { return depth > 0; }
 };
 
-class FakeTaskBar : public platform::TaskBar {
-public:
+struct FakeTaskBar : platform::TaskBar {
     std::optional<platform::TaskBarPosition> where;
     std::optional<platform::TaskBarPosition> position() const override { return where; }
 };
 
-class FakeAutostart : public platform::Autostart {
-public:
+struct FakeAutostart : platform::Autostart {
     std::set<std::string> entries;
     int writes = 0;
     bool write(const std::string& name) override {

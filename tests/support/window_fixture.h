@@ -2,15 +2,16 @@
 #pragma once
 
 #include "shell/windows/module_window.h"
+#include "shell/windows/picture_box.h"
 #include "shell/windows/process.h"
 #include "shell/windows/window_registry.h"
 #include "support/fakes.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QBuffer>
 #include <QImage>
-
-#include <gtest/gtest.h>
+#include <QTest>
 
 /// The font library keeps its caches to the end of the process and has no one to free them.
 extern "C" [[gnu::weak]] const char* __lsan_default_suppressions() {
@@ -29,11 +30,11 @@ inline QApplication& application() {
     return *instance;
 }
 
-/// The bytes of a small picture whose first pixel tells it from the others, and whose last one is black.
-inline std::string pictureBytes(QRgb firstPixel) {
-    QImage picture(6, 10, QImage::Format_RGB32);
+/// The bytes of a small black picture with one pixel, the first if nothing else is said, that tells it from the others.
+inline std::string pictureBytes(QRgb mark, QPoint at = {}) {
+    QImage picture(8, 8, QImage::Format_RGB32);
     picture.fill(Qt::black);
-    picture.setPixel(0, 0, firstPixel);
+    picture.setPixel(at, mark);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     picture.save(&buffer, "PNG");
@@ -66,6 +67,33 @@ protected:
         if (!found) throw std::logic_error(std::string("no control ") + name);
         return *found;
     }
+    /// What is written on a label, a button or in a field.
+    static std::string textOf(const QWidget& window, const char* name) {
+        const QVariant text = control<QWidget>(window, name).property("text");
+        if (!text.isValid()) throw std::logic_error(std::string("no text on ") + name);
+        return text.toString().toStdString();
+    }
+    static std::string tipOf(const QWidget& window, const char* name) {
+        return control<QWidget>(window, name).toolTip().toStdString();
+    }
+    /// The letters by which the controls of a window are reached together with Alt; each may stand once.
+    static QStringList mnemonicsOf(const QWidget& window) {
+        QStringList letters;
+        for (const QWidget* widget : window.findChildren<QWidget*>()) {
+            const QString text = widget->property(widget->inherits("QGroupBox") ? "title" : "text").toString();
+            const qsizetype mark = text.indexOf(u'&');
+            if (mark >= 0 && !widget->inherits("QMenu")) letters << text.mid(mark + 1, 1).toUpper();
+        }
+        return letters;
+    }
+    static bool shown(const QWidget& window, const char* name) {
+        return control<QWidget>(window, name).isVisibleTo(&window);
+    }
+    /// A pixel of the picture in a box.
+    static QRgb onShow(const QWidget& window, const char* name, QPoint at = {}) {
+        return control<shell::PictureBox>(window, name).picture().pixel(at);
+    }
+    static void press(const QWidget& window, const char* name) { control<QAbstractButton>(window, name).click(); }
 
     QApplication& qt = application();
     FakeClock clock;

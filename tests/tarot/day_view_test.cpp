@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/helpers.h"
 #include "tarot/day_view.h"
-
-#include <gtest/gtest.h>
-
-#include <vector>
 
 namespace velmoriax::tarot {
 namespace {
@@ -20,24 +17,19 @@ TEST(DayViewTest, TellsTheDateInBothWindows) {
 
 TEST(DayViewTest, OnlyTwoSecondsOfADayBringAStep) {
     using enum MidnightStep;
-    struct Row {
-        const char* time;
-        const char* muteCod;
-        bool refreshing;
-        MidnightStep step;
-    };
-    for (const Row& row : {Row{"0:00:01", "nomuted", false, showNewDay}, Row{" 0:00:01 ", "nomuted", false, showNewDay},
-                           Row{"0:00:01", "muted", false, none}, Row{"0:00:00", "nomuted", false, none},
-                           Row{"12:00:01", "nomuted", false, none}, Row{"0:00:30", "nomuted", true, hideAgain},
-                           Row{"0:00:30", "muted", true, hideAgain}, Row{"0:00:30", "nomuted", false, none}})
-        EXPECT_EQ(midnightStep(row.time, row.muteCod, row.refreshing), row.step) << row.time << ' ' << row.muteCod;
+    const test::Table<const char*, const char*, bool, MidnightStep> rows{
+        {"0:00:01", "nomuted", false, showNewDay}, {" 0:00:01 ", "nomuted", false, showNewDay},
+        {"0:00:01", "muted", false, none},         {"0:00:00", "nomuted", false, none},
+        {"12:00:01", "nomuted", false, none},      {"0:00:30", "nomuted", true, hideAgain},
+        {"0:00:30", "muted", true, hideAgain},     {"0:00:30", "nomuted", false, none}};
+    for (const auto& [time, muteCod, refreshing, step] : rows)
+        EXPECT_EQ(midnightStep(time, muteCod, refreshing), step) << time << ' ' << muteCod;
 }
 
 TEST(DayViewTest, TheGaugeCountsOnWhileTheWindowsChange) {
     std::int16_t gaugeTicks = 20; // left by a window that is gone
     MinuteCounts counts;
-    std::vector<int> gauge;
-    std::vector<int> sky;
+    std::vector<int> gauge, sky;
     for (int minute = 1; minute <= 120; ++minute) {
         const MinuteWork work = minuteTick(gaugeTicks, counts);
         if (work.gauge) gauge.push_back(minute);

@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/helpers.h"
 #include "tarot/picture_rotation.h"
-
-#include "base/run_time_error.h"
-
-#include <gtest/gtest.h>
-
-#include <numeric>
-#include <vector>
 
 namespace velmoriax::tarot {
 namespace {
@@ -32,22 +26,18 @@ struct Picture {
 using Bytes = std::vector<std::uint8_t>;
 
 TEST(RotatePicture, MapsThePixelsOfASquareInEachMode) {
-    struct Case {
-        int mode;
-        Bytes expected; // of 1 2 3 / 4 5 6 / 7 8 9
-        const char* why;
-    };
-    const std::vector<Case> cases{
+    const test::Table<int, Bytes, const char*> rows{
+        // of 1 2 3 / 4 5 6 / 7 8 9
         {turn::clockwise, {7, 4, 1, 8, 5, 2, 9, 6, 3}, "the left column becomes the top row"},
         {turn::half, {9, 8, 7, 6, 5, 4, 3, 2, 1}, "read backwards"},
         {turn::counterClockwise, {3, 6, 9, 2, 5, 8, 1, 4, 7}, "the right column becomes the top row"},
         {3, Bytes(9, 0), "a mode that copies nothing leaves black"},
         {-1, Bytes(9, 0), "below the modes likewise"},
     };
-    for (const Case& row : cases) {
+    for (const auto& [mode, expected, why] : rows) {
         Picture picture(3, 3, 1);
-        rotatePicture(picture.surface, row.mode, 0, 0, 3, 3);
-        EXPECT_EQ(picture.bytes, row.expected) << row.why;
+        rotatePicture(picture.surface, mode, 0, 0, 3, 3);
+        EXPECT_EQ(picture.bytes, expected) << why;
     }
 }
 
@@ -81,12 +71,8 @@ TEST(RotatePicture, RefusesAQuarterTurnOfWhatIsNotSquareAndLeavesItWhole) {
     for (const int mode : {turn::clockwise, turn::counterClockwise}) {
         Picture picture(3, 2, 1);
         const Bytes before = picture.bytes;
-        try {
-            rotatePicture(picture.surface, mode, 0, 0, 3, 2);
-            ADD_FAILURE() << mode;
-        } catch (const base::RunTimeError& error) {
-            EXPECT_EQ(error.code(), base::RunTimeError::Code::subscriptOutOfRange);
-        }
+        EXPECT_EQ(test::codeOf([&] { rotatePicture(picture.surface, mode, 0, 0, 3, 2); }),
+                  base::RunTimeError::Code::subscriptOutOfRange);
         EXPECT_EQ(picture.bytes, before);
     }
 }

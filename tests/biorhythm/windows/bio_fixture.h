@@ -8,14 +8,10 @@
 #include "biorhythm/windows/frm_profiles.h"
 #include "support/window_fixture.h"
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QDateEdit>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QSpinBox>
-#include <QTest>
 
 namespace velmoriax::biorhythm {
 
@@ -33,25 +29,18 @@ struct BioWindows : test::WindowFixture {
 
     frmBio& open() { return load<frmBio>(shell::Module::biorhythms); }
 
-    static void press(const QWidget& window, const char* name) { control<QAbstractButton>(window, name).click(); }
-    static QString label(const QWidget& window, const char* name) { return control<QLabel>(window, name).text(); }
-    /// The text on a stepper.
-    static QString face(const QWidget& window, const char* name) { return control<QLineEdit>(window, name).text(); }
     static void step(const QWidget& window, const char* name, int value) {
         control<QSpinBox>(window, name).setValue(value);
-    }
-    static bool shown(const QWidget& window, const char* name) {
-        return control<QWidget>(window, name).isVisibleTo(&window);
     }
     std::string option(const char* key) { return record.options.option(key); }
     std::string lines() { return files.at("\\perfiles.txt"); }
 
-    /// Day, month and year as the three faces of a date show them.
-    static QString birthShown(const QWidget& view) {
-        return face(view, "lblDayBirth") + u' ' + face(view, "lblMonthBirth") + u' ' + face(view, "lblYearBirth");
+    /// Day, month and year of a date on its three faces.
+    static std::string birthShown(const QWidget& view) {
+        return textOf(view, "lblDayBirth") + ' ' + textOf(view, "lblMonthBirth") + ' ' + textOf(view, "lblYearBirth");
     }
-    static QString readingShown(const QWidget& view) {
-        return face(view, "lblDayBio") + u' ' + face(view, "lblMonthBio") + u' ' + face(view, "lblYearBio");
+    static std::string readingShown(const QWidget& view) {
+        return textOf(view, "lblDayBio") + ' ' + textOf(view, "lblMonthBio") + ' ' + textOf(view, "lblYearBio");
     }
 };
 

@@ -11,7 +11,7 @@ namespace velmoriax::biorhythm {
 namespace {
 
 using platform::BoxIcon;
-using Shown = std::vector<test::FakeBoxes::Shown>;
+using test::Shown;
 
 struct BioView : BioWindows {
     frmBio& view = open();
@@ -22,14 +22,14 @@ struct BioView : BioWindows {
 struct BioViewStart : BioWindows {};
 
 TEST_F(BioView, ShowsThePersonOfTheFilesToday) {
-    EXPECT_EQ(birthShown(view), QStringLiteral("15 March 1980"));
-    EXPECT_EQ(readingShown(view), QStringLiteral("20 June 2026"));
-    EXPECT_EQ(label(view, "LabelHoraBirth"), QStringLiteral("Time: 7:45"));
-    EXPECT_EQ(label(view, "lblDays"), QStringLiteral("16898.45"));
-    EXPECT_EQ(label(view, "LabelEmo"), QStringLiteral("(-9.74 %)"));
-    EXPECT_EQ(label(view, "LabelMedia"), QStringLiteral("-39.20% (negative: bad day)"));
-    EXPECT_EQ(label(view, "LabelGetTime"), QStringLiteral("Time: 18:30:00"));
-    EXPECT_EQ(label(view, "LblRest"), QStringLiteral("0"));
+    EXPECT_EQ(birthShown(view), "15 March 1980");
+    EXPECT_EQ(readingShown(view), "20 June 2026");
+    EXPECT_EQ(textOf(view, "LabelHoraBirth"), "Time: 7:45");
+    EXPECT_EQ(textOf(view, "lblDays"), "16898.45");
+    EXPECT_EQ(textOf(view, "LabelEmo"), "(-9.74 %)");
+    EXPECT_EQ(textOf(view, "LabelMedia"), "-39.20% (negative: bad day)");
+    EXPECT_EQ(textOf(view, "LabelGetTime"), "Time: 18:30:00");
+    EXPECT_EQ(textOf(view, "LblRest"), "0");
     EXPECT_TRUE(shown(view, "Emodescmini") && !shown(view, "Emoascmini"));
     EXPECT_FALSE(shown(view, "ComboProfiles") || shown(view, "TextSecondProf"));
     EXPECT_FALSE(record.bioView.manualDate);
@@ -39,15 +39,15 @@ TEST_F(BioView, ShowsThePersonOfTheFilesToday) {
 TEST_F(BioView, KeepsTheDayWithinTheMonthBeforeItCalculates) {
     step(view, "vsbDayBirth", 30);
     step(view, "vsbMonthBirth", 2);
-    EXPECT_EQ(birthShown(view), QStringLiteral("29 February 1980"));
+    EXPECT_EQ(birthShown(view), "29 February 1980");
     EXPECT_EQ(record.bio.birthDateText, "29/2/1980");
     step(view, "vsbYearBirth", 2000);
-    EXPECT_EQ(birthShown(view), QStringLiteral("28 February 2000"));
+    EXPECT_EQ(birthShown(view), "28 February 2000");
     EXPECT_EQ(control<QSpinBox>(view, "vsbDayBirth").maximum(), 28);
     step(view, "vsbMonthBio", 2);
     EXPECT_TRUE(record.bioView.manualDate);
     step(view, "vsbDayBirth", 1);
-    EXPECT_EQ(readingShown(view), QStringLiteral("20 June 2026")) << "a change of the birth returns to today";
+    EXPECT_EQ(readingShown(view), "20 June 2026") << "a change of the birth returns to today";
 }
 
 TEST_F(BioView, TakesTypedNumbersWhenTheyAreComplete) {
@@ -55,17 +55,13 @@ TEST_F(BioView, TakesTypedNumbersWhenTheyAreComplete) {
     int events = 0;
     QObject::connect(&year, &QSpinBox::valueChanged, &year, [&] { ++events; });
     year.selectAll();
-    QTest::keyClicks(&year, QStringLiteral("1976"));
+    QTest::keyClicks(&year, "1976");
     EXPECT_EQ(record.bioView.birth.date.year, 1980);
     QTest::keyClick(&year, Qt::Key_Return);
     EXPECT_EQ(record.bioView.birth.date.year, 1976);
     EXPECT_EQ(events, 1);
     auto& month = control<QSpinBox>(view, "vsbMonthBirth");
-    struct Typed {
-        const char* keys;
-        int taken;
-    };
-    for (const auto& [keys, taken] : std::vector<Typed>{{"7", 7}, {"dec", 12}, {"13", 1}, {"ju", 1}}) {
+    for (const auto& [keys, taken] : test::Table<const char*, int>{{"7", 7}, {"dec", 12}, {"13", 1}, {"ju", 1}}) {
         step(view, "vsbMonthBirth", 1);
         month.selectAll();
         QTest::keyClicks(&month, QString::fromLatin1(keys));
@@ -77,7 +73,7 @@ TEST_F(BioView, TakesTypedNumbersWhenTheyAreComplete) {
 TEST_F(BioView, StepsTheReadingWhileAnArrowIsHeld) {
     QTest::mousePress(&left, Qt::LeftButton);
     EXPECT_TRUE(record.bioView.manualDate);
-    EXPECT_EQ(readingShown(view), QStringLiteral("20 June 2026")) << "the first step comes with the first tick";
+    EXPECT_EQ(readingShown(view), "20 June 2026") << "the first step comes with the first tick";
     EXPECT_TRUE(QTest::qWaitFor([&] { return record.bioView.reading <= base::CivilDate{2026, 6, 17}; }));
     QTest::mouseRelease(&left, Qt::LeftButton);
     const base::CivilDate reached = record.bioView.reading;
@@ -90,43 +86,40 @@ TEST_F(BioView, StepsTheReadingWhileAnArrowIsHeld) {
     QTest::keyClick(&right, Qt::Key_Right);
     EXPECT_EQ(base::daysBetween(reached, record.bioView.reading), 3) << "a short click and each key step once";
     press(view, "CmdHoy");
-    EXPECT_EQ(readingShown(view), QStringLiteral("20 June 2026"));
+    EXPECT_EQ(readingShown(view), "20 June 2026");
 }
 
 TEST_F(BioView, StopsAtTheBoundsAndCrossesMonths) {
-    struct Step {
-        base::CivilDate from;
-        Qt::Key key;
-        const char* to;
+    const test::Table<base::CivilDate, Qt::Key, const char*> rows{
+        {{2100, 12, 31}, Qt::Key_Right, "31 December 2100"},
+        {{1900, 1, 1}, Qt::Key_Left, "1 January 1900"},
+        {{2026, 3, 1}, Qt::Key_Left, "28 February 2026"},
+        {{2026, 12, 31}, Qt::Key_Right, "1 January 2027"},
     };
-    const std::vector<Step> steps{{{2100, 12, 31}, Qt::Key_Right, "31 December 2100"},
-                                  {{1900, 1, 1}, Qt::Key_Left, "1 January 1900"},
-                                  {{2026, 3, 1}, Qt::Key_Left, "28 February 2026"},
-                                  {{2026, 12, 31}, Qt::Key_Right, "1 January 2027"}};
-    for (const auto& [from, key, to] : steps) {
+    for (const auto& [from, key, to] : rows) {
         control<QDateEdit>(view, "DTPicker1").setDate({from.year, from.month, from.day});
         press(view, "CmdGo");
         QTest::keyClick(&left, key);
-        EXPECT_EQ(readingShown(view), QString::fromLatin1(to));
+        EXPECT_EQ(readingShown(view), to);
     }
 }
 
 TEST_F(BioView, CountsTheTargetFromTodayUntilItCalculates) {
     step(view, "vsbDayBio", 10);
     control<QDateEdit>(view, "DTPicker1").setDate({2026, 7, 31});
-    EXPECT_EQ(label(view, "LblRest"), QStringLiteral("41"));
+    EXPECT_EQ(textOf(view, "LblRest"), "41");
     step(view, "vsbDayBio", 11);
-    EXPECT_EQ(label(view, "LblRest"), QStringLiteral("50"));
+    EXPECT_EQ(textOf(view, "LblRest"), "50");
     press(view, "CmdGo");
-    EXPECT_EQ(readingShown(view), QStringLiteral("31 July 2026"));
-    EXPECT_EQ(label(view, "LblRest"), QStringLiteral("0"));
+    EXPECT_EQ(readingShown(view), "31 July 2026");
+    EXPECT_EQ(textOf(view, "LblRest"), "0");
 }
 
 TEST_F(BioView, ReturnsToTodayWithTheHalfHour) {
     step(view, "vsbYearBio", 2031);
     record.bioView.bioTickCount = 59;
     control<QTimer>(view, "TimerBio").setInterval(1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return readingShown(view) == QStringLiteral("20 June 2026"); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return readingShown(view) == "20 June 2026"; }));
 }
 
 TEST_F(BioView, AsksForTheTimeOfBirth) {
@@ -139,11 +132,11 @@ TEST_F(BioView, AsksForTheTimeOfBirth) {
     EXPECT_TRUE(shown(view, "VScrollHora") && shown(view, "CommandOk") && !shown(view, "XPButtonHora"));
     step(view, "VScrollHora", 9);
     step(view, "VScrollMinuto", 5);
-    EXPECT_EQ(label(view, "lblDays"), QStringLiteral("16898.39")) << "it counts before it is confirmed";
+    EXPECT_EQ(textOf(view, "lblDays"), "16898.39") << "it counts before it is confirmed";
     EXPECT_EQ(files.at("\\horabio.dat"), "7,45\r\n");
     press(view, "CommandOk");
     EXPECT_EQ(files.at("\\horabio.dat"), "9,5\r\n");
-    EXPECT_EQ(label(view, "LabelHoraBirth"), QStringLiteral("Time: 9:05"));
+    EXPECT_EQ(textOf(view, "LabelHoraBirth"), "Time: 9:05");
     EXPECT_TRUE(!shown(view, "LabelMinuto") && shown(view, "XPButtonHora"));
 }
 
@@ -152,18 +145,20 @@ TEST_F(BioViewStart, PicksAProfileWithADayThatTheMonthOnShowLacks) {
     files.at("\\perfiles.txt") = "Ann,May/31/1990,7:5\r\n\r\nNoDate,Sometime,7:45\r\nBob,May/3/1990,8:10\r\n";
     frmBio& view = open();
     auto& list = control<QComboBox>(view, "ComboProfiles");
-    EXPECT_EQ(list.currentText(), QStringLiteral("Ann")) << "the first one, without a stored name";
-    EXPECT_EQ(birthShown(view), QStringLiteral("10 February 1981"));
-    list.setCurrentIndex(0);
-    Q_EMIT list.activated(0);
-    EXPECT_EQ(birthShown(view), QStringLiteral("31 May 1990"));
-    EXPECT_EQ(label(view, "LabelHoraBirth"), QStringLiteral("Time: 7:05"));
+    EXPECT_EQ(list.currentText(), "Ann") << "the first one, without a stored name";
+    EXPECT_EQ(birthShown(view), "10 February 1981");
+    const auto pick = [&](int row) {
+        list.setCurrentIndex(row);
+        Q_EMIT list.activated(row);
+    };
+    pick(0);
+    EXPECT_EQ(birthShown(view), "31 May 1990");
+    EXPECT_EQ(textOf(view, "LabelHoraBirth"), "Time: 7:05");
     EXPECT_EQ(files.at("\\bio.dat"), "31,5,1990\r\n");
     EXPECT_EQ(files.at("\\horabio.dat"), "7,5\r\n");
     EXPECT_EQ(option("Perfil-Bio"), "Ann");
-    list.setCurrentIndex(1);
-    Q_EMIT list.activated(1);
-    EXPECT_EQ(list.currentText(), QStringLiteral("Ann")) << "a person whose date cannot be read is not picked";
+    pick(1);
+    EXPECT_EQ(list.currentText(), "Ann") << "a person whose date cannot be read is not picked";
 }
 
 TEST_F(BioView, SavesAProfileOnce) {
@@ -171,7 +166,7 @@ TEST_F(BioView, SavesAProfileOnce) {
     for (int i = 0; i < 3; ++i) press(view, "XPButtonSave");
     EXPECT_EQ(lines(), "Ann,March/15/1980,7:45\r\n");
     EXPECT_EQ(boxes.shown, (Shown{{BoxIcon::warning, "This profile exists already, put another please.", "Error"}}));
-    EXPECT_EQ(view.profileNames(), QStringList{QStringLiteral("Ann")});
+    EXPECT_EQ(view.profileNames(), QStringList("Ann"));
     EXPECT_TRUE(shown(view, "ComboProfiles"));
     EXPECT_EQ(option("Perfil-Bio"), "Ann");
     press(view, "XPButtonCompa");
@@ -188,16 +183,15 @@ TEST_F(BioViewStart, ListsAThousandProfilesAndTellsItsRowsInWords) {
                                  "Dibujar secundario=1\r\n";
     frmBio& view = open();
     EXPECT_EQ(view.profileNames().size(), 1000);
-    EXPECT_EQ(view.mainName(), QStringLiteral("Person 777"));
-    EXPECT_EQ(face(view, "TextSecondProf"), QStringLiteral("Person 3"));
+    EXPECT_EQ(view.mainName(), "Person 777");
+    EXPECT_EQ(textOf(view, "TextSecondProf"), "Person 3");
     EXPECT_TRUE(shown(view, "TextSecondProf"));
     auto& plot = control<BioPlot>(view, "MSChart1");
     EXPECT_EQ(plot.chart().seriesCount, 8U);
     const QString rows = QAccessible::queryAccessibleInterface(&plot)->text(QAccessible::Description);
     EXPECT_EQ(rows.count(u'\n'), 30);
-    EXPECT_TRUE(rows.contains(QStringLiteral("20, date of biorhythm: Physical -97.53 %, Emotional -9.74 %")))
-        << qPrintable(rows);
-    EXPECT_TRUE(rows.contains(QStringLiteral("Physical2 -97.53 %"))) << "the two were born at the same time";
+    EXPECT_TRUE(rows.contains("20, date of biorhythm: Physical -97.53 %, Emotional -9.74 %")) << qPrintable(rows);
+    EXPECT_TRUE(rows.contains("Physical2 -97.53 %")) << "the two were born at the same time";
 }
 
 TEST_F(BioViewStart, OneProfileIsDrawnAlone) {
@@ -253,16 +247,9 @@ TEST_F(BioView, SavesWhenItIsHiddenAndWhenItGoes) {
 }
 
 TEST_F(BioView, MnemonicsAreUnique) {
-    QStringList keys;
-    for (const QWidget* control : view.findChildren<QWidget*>()) {
-        const QString text = control->property(control->inherits("QGroupBox") ? "title" : "text").toString();
-        const qsizetype mark = text.indexOf(u'&');
-        if (mark >= 0 && !control->inherits("QMenu")) keys << text.mid(mark + 1, 1).toUpper();
-    }
-    keys << QStringLiteral("G");
-    const qsizetype all = keys.size();
-    EXPECT_GE(all, 15);
-    EXPECT_EQ(keys.removeDuplicates(), 0) << all;
+    QStringList letters = mnemonicsOf(view) << "G";
+    EXPECT_GE(letters.size(), 15);
+    EXPECT_EQ(letters.removeDuplicates(), 0);
 }
 
 } // namespace

@@ -10,7 +10,7 @@ namespace velmoriax::biorhythm {
 namespace {
 
 using platform::BoxIcon;
-using Shown = std::vector<test::FakeBoxes::Shown>;
+using test::Shown;
 
 struct WithProfiles : BioWindows {
     frmBio& openWithProfiles() {
@@ -66,9 +66,9 @@ TEST_F(Profiles, DeleteTakesEveryLineThatHoldsTheChosenOne) {
     EXPECT_EQ(lines(), "\r\nBob,January/1/1980,12:30\r\n");
     EXPECT_EQ(offered().size(), 3) << "the view learns of it through Exit alone";
     press(list, "CmdExit");
-    EXPECT_EQ(offered(), QStringList{QStringLiteral("Bob")});
-    EXPECT_EQ(view.mainName(), QStringLiteral("Bob")) << "the stored name is gone: the last entry stands";
-    EXPECT_EQ(birthShown(view), QStringLiteral("15 March 1980"));
+    EXPECT_EQ(offered(), QStringList("Bob"));
+    EXPECT_EQ(view.mainName(), "Bob") << "the stored name is gone: the last entry stands";
+    EXPECT_EQ(birthShown(view), "15 March 1980");
     EXPECT_EQ(option("Perfil-Bio"), "Ann");
     EXPECT_FALSE(record.shell.noTrayAdd || windows.loaded("FrmProfiles"));
 }
@@ -89,15 +89,15 @@ TEST_F(Profiles, ModifyMovesTheRecordToTheEnd) {
     press(list, "CmdMod");
     EXPECT_EQ(boxes.shown, (Shown{{BoxIcon::warning, "You must choose a record", "ErrorInfo"}}));
     QWidget& form = edit(1);
-    EXPECT_EQ(face(form, "TextName"), QStringLiteral("Bob"));
+    EXPECT_EQ(textOf(form, "TextName"), "Bob");
     EXPECT_EQ(control<QDateEdit>(form, "DTPicker1").date(), QDate(1980, 1, 1));
-    EXPECT_EQ(face(form, "LabelHora") + u':' + face(form, "LabelMinuto"), QStringLiteral("12:30"));
+    EXPECT_EQ(textOf(form, "LabelHora") + ':' + textOf(form, "LabelMinuto"), "12:30");
     EXPECT_EQ(lines().find("Bob"), 26U) << "the list stands until it is submitted";
     step(form, "VScrollHora", 7);
     step(form, "VScrollMinuto", 5);
     press(form, "CmdAcept");
     EXPECT_EQ(lines(), "Ann,March/15/1980,7:45\r\n\r\nJoAnn,March/15/1980,7:45\r\nBob,January/1/1980,7:5\r\n");
-    EXPECT_EQ(control<QListWidget>(list, "ListProfiles").item(2)->text(), QStringLiteral("Bob,January/1/1980,7:5"));
+    EXPECT_EQ(control<QListWidget>(list, "ListProfiles").item(2)->text(), "Bob,January/1/1980,7:5");
     EXPECT_FALSE(windows.loaded("FormMod"));
     EXPECT_FALSE(files.exists("/tmp/tmp1")) << "it took the list's place";
 }
@@ -119,33 +119,30 @@ TEST_F(Profiles, TellsWhatFailedAndLeavesTheList) {
     choose(list, 1);
     press(list, "CmdBorrar");
     edit(1).close();
-    std::vector<std::string> told;
-    for (const auto& box : boxes.shown) told.push_back(box.text);
-    EXPECT_EQ(told,
-              (std::vector<std::string>{"Error searching the name of file.", "Error getting temporary file name.",
-                                        "Error getting temporary file path.", "Error searching the path of file."}));
+    const std::vector<std::string> told{"Error searching the name of file.", "Error getting temporary file name.",
+                                        "Error getting temporary file path.", "Error searching the path of file."};
+    EXPECT_TRUE(std::ranges::equal(told, boxes.shown, {}, {}, &test::FakeBoxes::Shown::text));
     EXPECT_EQ(lines(), before);
 }
 
 TEST_F(CompatibilityWindow, ComparesAndDrawsTheSecondProfile) {
     EXPECT_TRUE(record.shell.noTrayAdd);
-    EXPECT_EQ(label(window, "LabelProMain"), QStringLiteral("Main profile: Ann"));
+    EXPECT_EQ(textOf(window, "LabelProMain"), "Main profile: Ann");
     takeFocus(window);
-    EXPECT_EQ(label(window, "LabelFis"), QStringLiteral("Physical:")) << "nobody is chosen yet";
+    EXPECT_EQ(textOf(window, "LabelFis"), "Physical:") << "nobody is chosen yet";
     EXPECT_TRUE(boxes.shown.empty());
     choose(window, 1);
-    EXPECT_EQ(label(window, "LabelInfo"), QStringLiteral("Complementarity between Ann and Bob for the day "
-                                                         "June/20/2026 18:30:00 (0-100 %):"));
+    EXPECT_EQ(textOf(window, "LabelInfo"), "Complementarity between Ann and Bob for the day "
+                                           "June/20/2026 18:30:00 (0-100 %):");
     EXPECT_EQ(option("Nombre secundario"), "Bob");
     EXPECT_EQ(series(), 4U);
     tabs.setCurrentIndex(1);
-    EXPECT_EQ(label(window, "LabelInfo"), QStringLiteral("Affinity between Ann and Bob forever (0-100 %):"));
-    EXPECT_EQ(label(window, "LabelIntu"), QStringLiteral("Intuition: 89.47 %"));
-    EXPECT_EQ(label(window, "LabelMedia"),
-              QStringLiteral("Mean (Physi + Emo + Intell + Intui): 56.52 % (little affinity)"));
+    EXPECT_EQ(textOf(window, "LabelInfo"), "Affinity between Ann and Bob forever (0-100 %):");
+    EXPECT_EQ(textOf(window, "LabelIntu"), "Intuition: 89.47 %");
+    EXPECT_EQ(textOf(window, "LabelMedia"), "Mean (Physi + Emo + Intell + Intui): 56.52 % (little affinity)");
     control<QCheckBox>(window, "CheckPlot").setChecked(true);
     EXPECT_EQ(series(), 8U);
-    EXPECT_EQ(face(view, "TextSecondProf"), QStringLiteral("Bob"));
+    EXPECT_EQ(textOf(view, "TextSecondProf"), "Bob");
     EXPECT_EQ(option("Dibujar secundario"), "1");
     tabs.setCurrentIndex(2);
     EXPECT_FALSE(windows.loaded("FrmCompaTab") || record.shell.noTrayAdd);
@@ -169,7 +166,7 @@ TEST_F(CompatibilityWindow, APersonOfTheMainNameIsNoOther) {
     QWidget& again = beside("XPButtonCompa", "FrmCompaTab");
     EXPECT_EQ(control<QListWidget>(again, "ListProfiles").currentRow(), 2) << "the stored one is compared at once";
     EXPECT_TRUE(control<QCheckBox>(again, "CheckPlot").isChecked());
-    EXPECT_EQ(face(view, "TextSecondProf"), QStringLiteral("JoAnn"));
+    EXPECT_EQ(textOf(view, "TextSecondProf"), "JoAnn");
 }
 
 struct Snapshot : WithProfiles {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/windows/picture_box.h"
+#include "shell/windows/second_timer.h"
 #include "shell/windows/window_place.h"
 #include "support/window_fixture.h"
 
+#include <QDateTime>
 #include <QScreen>
-#include <QTest>
 
 namespace velmoriax::shell {
 namespace {
@@ -30,8 +30,7 @@ private:
     std::vector<std::string>& story_;
 };
 
-class ModuleWindowTest : public test::WindowFixture {
-protected:
+struct ModuleWindowTest : test::WindowFixture {
     ModuleWindowTest() {
         for (const ModuleRow& row : modules)
             windows.addModule(row.module, [this, module = row.module](Process& p) -> ModuleWindow* {
@@ -56,18 +55,14 @@ TEST_F(ModuleWindowTest, EveryPopupEntryHandsOverToItsModuleAlone) {
         }
 }
 
-TEST_F(ModuleWindowTest, TheTargetLoadsBeforeTheSourceUnloads) {
-    open(Module::names).handOverTo(Module::oracle);
-    EXPECT_EQ(story, (std::vector<std::string>{"FrmName loads", "Frmoracle loads", "FrmName unloads"}));
-    EXPECT_FALSE(record.shell.viewLoading);
-}
-
-TEST_F(ModuleWindowTest, AHandOverShowsItsTargetWhateverTheStartSays) {
+TEST_F(ModuleWindowTest, AHandOverLoadsAndShowsItsTargetBeforeTheSourceUnloads) {
     files.at("\\opciones.ini") = "[opciones]\r\nIniciar Minimizado=True\r\n";
     ModuleWindow& first = open(Module::names);
     EXPECT_FALSE(first.isVisible()) << "at the start the option counts";
-    first.handOverTo(Module::numbers);
-    EXPECT_TRUE(windows.loadedModule()->isVisible());
+    first.handOverTo(Module::oracle);
+    EXPECT_TRUE(windows.loadedModule()->isVisible()) << "and no more after it";
+    EXPECT_EQ(story, (std::vector<std::string>{"FrmName loads", "Frmoracle loads", "FrmName unloads"}));
+    EXPECT_FALSE(record.shell.viewLoading);
 }
 
 TEST_F(ModuleWindowTest, TheStepOfAModuleChangeSoundsButNotTheExit) {
@@ -114,6 +109,19 @@ TEST_F(ModuleWindowTest, APlaceOnNoScreenComesBackOntoTheNearest) {
         moveToPlace(window, lost);
         EXPECT_TRUE(area.contains(window.pos())) << lost.left << ", " << lost.top;
     }
+}
+
+TEST(SecondTimer, TicksOnceInEachSecond) {
+    test::application();
+    SecondTimer timer(20, nullptr);
+    timer.begin();
+    EXPECT_TRUE(timer.interval() > 0 && timer.interval() <= 1020);
+    timer.stop();
+    const qint64 before = QDateTime::currentMSecsSinceEpoch();
+    QMetaObject::invokeMethod(&timer, "timeout");
+    const qint64 taken = QDateTime::currentMSecsSinceEpoch() - before;
+    EXPECT_TRUE(timer.isActive()) << "each tick sets the next";
+    EXPECT_LE((1020 - (before + timer.interval()) % 1000) % 1000, taken) << "20 ms after the second has begun";
 }
 
 TEST(PictureBox, AKeyThatCameFromElsewhereIsNoClick) {

@@ -2,21 +2,19 @@
 #include "shell/windows/frm_about.h"
 #include "shell/windows/frm_options.h"
 #include "shell/windows/link_label.h"
+#include "shell/windows/notif.h"
+#include "shell/windows/notifications.h"
 #include "support/window_fixture.h"
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
-#include <QTest>
-
-#include <fstream>
-#include <iterator>
+#include <QPointer>
+#include <QScreen>
 
 namespace velmoriax::shell {
 namespace {
 
-class SecondaryWindowsTest : public test::WindowFixture {
-protected:
+struct SecondaryWindowsTest : test::WindowFixture {
     template<typename Window>
     Window& touch(const std::string& name) {
         windows.addSecondary(name, [](Process& p) -> SecondaryWindow* { return new Window(p); });
@@ -34,13 +32,7 @@ protected:
 TEST_F(SecondaryWindowsTest, EveryOptionStandsUnderItsCaptionAndObeysTheMouse) {
     const FrmOptions& window = touch<FrmOptions>("FrmOptions");
     EXPECT_EQ(window.windowTitle(), "Options");
-    struct Row {
-        const char* name;
-        const char* caption;
-        std::string_view key;
-        const char* value;
-    };
-    const Row rows[] = {
+    const test::Table<const char*, const char*, std::string_view, const char*> rows{
         {"CheckWin", "With Windows", key::iniciarConWindows, "True"},
         {"CheckMini", "Minimized", key::iniciarMinimizado, "True"},
         {"OptReal", "Real", key::tirada, "real"},
@@ -60,25 +52,21 @@ TEST_F(SecondaryWindowsTest, EveryOptionStandsUnderItsCaptionAndObeysTheMouse) {
         {"CheckTooltips", "Deactivate Tooltips", key::desactivarTooltips, "ToolTips off"},
     };
     taskBar.where = platform::TaskBarPosition{0, 770, 1280, 800, platform::TaskBarPosition::bottomEdge};
-    for (const Row& row : rows) {
-        EXPECT_EQ(control<QAbstractButton>(window, row.name).text().remove('&'), row.caption);
-        click(window, row.name);
-        EXPECT_EQ(record.options.option(row.key), row.value) << row.name;
+    for (const auto& [name, caption, option, value] : rows) {
+        EXPECT_EQ(control<QAbstractButton>(window, name).text().remove('&'), caption);
+        click(window, name);
+        EXPECT_EQ(record.options.option(option), value) << name;
     }
     EXPECT_FALSE(control<QWidget>(window, "OptionXP").isEnabled()) << "the tips are off now";
 }
 
-TEST_F(SecondaryWindowsTest, TheListsFollowTheKeyboard) {
+TEST_F(SecondaryWindowsTest, TheListsFollowTheKeyboardAndARefusedChoiceJumpsBack) {
     const FrmOptions& window = touch<FrmOptions>("FrmOptions");
     auto& levels = control<QComboBox>(window, "ComboBio");
     EXPECT_EQ(levels.count(), 9);
     EXPECT_EQ(control<QComboBox>(window, "Combolist").count(), 6);
     QTest::keyClick(&levels, Qt::Key_End);
     EXPECT_EQ(record.options.option(key::nivelAlertas), "Maximum (c. phase + critical + Crossings + actual s.)");
-}
-
-TEST_F(SecondaryWindowsTest, ARefusedChoiceJumpsBackToTheClassicStyle) {
-    const FrmOptions& window = touch<FrmOptions>("FrmOptions");
     taskBar.where = platform::TaskBarPosition{0, 0, 1280, 30, platform::TaskBarPosition::topEdge};
     click(window, "OptionPersonal");
     EXPECT_EQ(boxes.shown.size(), 1U);
@@ -95,32 +83,25 @@ TEST_F(SecondaryWindowsTest, OnlyTheButtonOfTheOptionsGivesTheTrayTipFree) {
     EXPECT_FALSE(record.shell.trayBusy);
 }
 
-TEST_F(SecondaryWindowsTest, MnemonicsAreUnique) {
-    std::map<QChar, QString> taken;
+TEST_F(SecondaryWindowsTest, EveryOptionHasAMnemonicOfItsOwn) {
     const FrmOptions& window = touch<FrmOptions>("FrmOptions");
-    const auto take = [&](const QString& caption) {
-        const auto at = caption.indexOf('&');
-        ASSERT_GE(at, 0) << caption.toStdString();
-        const QChar letter = caption.at(at + 1).toLower();
-        EXPECT_TRUE(taken.emplace(letter, caption).second) << caption.toStdString();
-    };
-    for (const auto* button : window.findChildren<QAbstractButton*>()) take(button->text());
-    for (const auto* label : window.findChildren<QLabel*>()) take(label->text());
+    QStringList letters = mnemonicsOf(window);
+    EXPECT_EQ(letters.size(), window.findChildren<QAbstractButton*>().size() + window.findChildren<QLabel*>().size());
+    EXPECT_EQ(letters.removeDuplicates(), 0);
 }
 
 TEST_F(SecondaryWindowsTest, TheAboutBoxSpeaksFromTheSuppliedFile) {
-    std::ifstream supplied(VELMORIAX_DATA_DIR "/velmoriax.ini", std::ios::binary);
-    files.at("\\velmoriax.ini").assign(std::istreambuf_iterator<char>(supplied), {});
+    files.at("\\velmoriax.ini") = test::bytesOf(VELMORIAX_DATA_DIR "/velmoriax.ini");
     QApplication::setApplicationDisplayName("Velmoriax");
     QApplication::setApplicationVersion("1.20.3");
     record.shell.trayBusy = true;
 
     frmAbout& window = touch<frmAbout>("frmAbout");
     EXPECT_EQ(window.windowTitle(), "About Velmoriax");
-    EXPECT_EQ(control<QLabel>(window, "LblTitle").text(), "Velmoriax by ostrabe");
-    EXPECT_EQ(control<QLabel>(window, "lblVersion").text(), "Version: 1.20.3");
-    const QString paragraph = control<QLabel>(window, "lblDescription").text();
-    EXPECT_TRUE(paragraph.startsWith("In the ") && paragraph.endsWith(" Enjoy!")) << paragraph.toStdString();
+    EXPECT_EQ(textOf(window, "LblTitle"), "Velmoriax by ostrabe");
+    EXPECT_EQ(textOf(window, "lblVersion"), "Version: 1.20.3");
+    const std::string paragraph = textOf(window, "lblDescription");
+    EXPECT_TRUE(paragraph.starts_with("In the ") && paragraph.ends_with(" Enjoy!")) << paragraph;
 
     click(window, "CommandInfo");
     click(window, "LblUrl");
@@ -148,6 +129,116 @@ TEST_F(SecondaryWindowsTest, ThePointerUnderlinesALinkAndTheFreeSurfaceTakesItAw
     EXPECT_TRUE(mail.font().underline());
     QTest::mouseMove(&window, QPoint(4, 4));
     EXPECT_FALSE(web.font().underline() || mail.font().underline());
+}
+
+/// Whatever the test wants to happen inside a slide, the events do.
+struct NotifTest : test::WindowFixture {
+    SlidingNotification sliding{process};
+
+    NotifTest() {
+        windows.addSecondary("Notif", [](Process& p) -> SecondaryWindow* { return new Notif(p); });
+        process.notification = &sliding;
+    }
+    Notif* window() const { return qobject_cast<Notif*>(windows.loaded("Notif")); }
+    static QRect screen() { return QGuiApplication::primaryScreen()->geometry(); }
+    static int bottom() { return screen().bottom() + 1; }
+    /// Lets something happen once, in the middle of the next slide.
+    void inTheMiddle(std::function<void()> what) {
+        events.runs = 0;
+        events.whatRuns = [this, what] {
+            if (events.runs == 60) what();
+        };
+    }
+};
+
+TEST_F(NotifTest, SlidesUpByItsLengthOnePixelAStepWithEventsBetween) {
+    sliding.slideUp(std::string(265, 'a'));
+    ASSERT_TRUE(window());
+    EXPECT_TRUE(sliding.isOpen());
+    EXPECT_TRUE(window()->isVisible());
+    EXPECT_EQ(window()->height(), 178);
+    EXPECT_EQ(window()->y(), bottom() - 178 - 29);
+    EXPECT_EQ(window()->x(), screen().width() - window()->width() - 33);
+    EXPECT_EQ(events.runs, 178 + 29);
+}
+
+TEST_F(NotifTest, LettersCountAndNotBytes) {
+    sliding.slideUp(QString(149, u'á').toStdString());
+    EXPECT_EQ(window()->height(), 120);
+}
+
+TEST_F(NotifTest, OneThatStandsSlidesDownInEitherDirectionAndStaysLoaded) {
+    sliding.slideUp("first");
+    sliding.slideUp("second");
+    EXPECT_FALSE(sliding.isOpen());
+    ASSERT_TRUE(window());
+    EXPECT_EQ(window()->y(), bottom() + 120);
+    sliding.slideUp(std::string(266, 'a'));
+    EXPECT_TRUE(sliding.isOpen()) << "a window that waits below the screen comes up again";
+    EXPECT_EQ(window()->y(), bottom() - 243 - 29);
+    sliding.slideDown();
+    EXPECT_FALSE(sliding.isOpen());
+    EXPECT_TRUE(window());
+}
+
+TEST_F(NotifTest, CloseMarkAndMinimisedModuleTakeItAway) {
+    sliding.slideUp("text");
+    press(*window(), "Image1");
+    EXPECT_FALSE(window());
+    EXPECT_FALSE(sliding.isOpen());
+    closeNotification(process);
+    EXPECT_FALSE(window()) << "nothing stands, nothing is touched";
+    sliding.slideUp("text");
+    closeNotification(process);
+    EXPECT_FALSE(window());
+    EXPECT_FALSE(sliding.isOpen());
+}
+
+TEST_F(NotifTest, SlideInsideASlideEndsWhereTheLaterTextWants) {
+    inTheMiddle([this] { sliding.slideUp(std::string(300, 'b')); });
+    sliding.slideUp("short");
+    EXPECT_TRUE(sliding.isOpen());
+    EXPECT_EQ(window()->height(), 243);
+    EXPECT_EQ(window()->y(), bottom() - 243 - 29);
+
+    inTheMiddle([this] { sliding.slideUp("up again"); });
+    sliding.slideDown();
+    EXPECT_EQ(window()->y(), bottom() + window()->height()) << "the outer slide has the last word";
+}
+
+TEST_F(NotifTest, TakenAwayOrEndedInTheMiddleTheSlideStopsAndTheWindowGoes) {
+    QPointer<Notif> first;
+    inTheMiddle([&] {
+        first = window();
+        windows.unload("Notif");
+        EXPECT_TRUE(first) << "destroyed while it slides";
+    });
+    sliding.slideUp("text");
+    EXPECT_FALSE(window());
+    EXPECT_FALSE(sliding.isOpen());
+    EXPECT_LT(events.runs, 70);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !first; })) << "and destroyed when nothing slides any more";
+
+    inTheMiddle([&] {
+        record.shell.closingAll = true;
+        windows.unloadAll();
+    });
+    sliding.slideUp("text");
+    EXPECT_FALSE(window());
+    EXPECT_LT(events.runs, 70);
+}
+
+TEST_F(NotifTest, LongestAlertFitsWithoutScrolling) {
+    const std::string text =
+        "Your physical cycle begins an ascending phase!\r\nYour intuitive cycle begins a descending phase!\r\n"
+        "Your intuitive cycle enter in a critical period and advance toward a passive phase, the intuition won't be of "
+        "great help!\r\nCrossing downward physical cycle to intuitive, intuition will be an allied while strength "
+        "decreases!\r\n---------------------------------------------\r\nPhysical: -97.53 % (falling)\r\nEmotional: "
+        "100.00 % (rising)\r\nIntellectual: -100.00 % (falling)\r\nIntuitive: -100.00 % (falling)";
+    sliding.slideUp(text);
+    const auto& words = control<QLabel>(*window(), "mTexto");
+    EXPECT_LE(words.heightForWidth(words.width()), words.parentWidget()->height());
+    EXPECT_FALSE(window()->isActiveWindow());
 }
 
 } // namespace

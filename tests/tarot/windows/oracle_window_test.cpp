@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/windows/picture_box.h"
 #include "support/window_fixture.h"
 #include "tarot/windows/frm_oracle.h"
 #include "tarot/windows/question_box.h"
 
 #include <QCalendarWidget>
 #include <QMimeData>
-#include <QPushButton>
-#include <QTest>
 
 namespace velmoriax::tarot {
 namespace {
@@ -15,7 +12,6 @@ namespace {
 constexpr QRgb suitBack = 0xffff0000;
 constexpr QRgb majorBack = 0xff00ff00;
 constexpr QRgb card = 0xff0000ff;
-constexpr QRgb turned = 0xff000000; // the last pixel of a picture is black
 
 /// A reading on 11/15/2026. The song is in its place.
 struct OracleWindow : test::WindowFixture {
@@ -36,49 +32,50 @@ struct OracleWindow : test::WindowFixture {
     Control& at(const char* name) {
         return control<Control>(*window, name);
     }
-    QRgb onShow(const char* name) { return at<shell::PictureBox>(name).picture().pixel(0, 0); }
+    QRgb face(const char* name) { return onShow(*window, name); }
+    bool shows(const char* name) { return shown(*window, name); }
+    std::string spoken(const char* name) { return at<QWidget>(name).accessibleName().toStdString(); }
+    std::string cardText() { return at<QPlainTextEdit>("TxtEdit").toPlainText().toStdString(); }
     void click(const char* name) { Q_EMIT at<shell::PictureBox>(name).clicked(); }
-    void press(const char* name) { at<QPushButton>(name).click(); }
     void ask(const char* box, const char* question) {
         at<QuestionBox>(box).setPlainText(QString::fromUtf8(question));
         QTest::keyClick(&at<QuestionBox>(box), Qt::Key_Return);
     }
-    bool shows(const char* name) { return !at<QWidget>(name).isHidden(); }
 
     shell::ModuleWindow* window = nullptr;
 };
 
 TEST_F(OracleWindow, ReadsFromTheQuestionsToTheResetByKeyboard) {
     open();
-    press("ARButtonResult");
-    EXPECT_EQ(onShow("imgfinal"), majorBack) << "nothing has been asked";
+    press(*window, "ARButtonResult");
+    EXPECT_EQ(face("imgfinal"), majorBack) << "nothing has been asked";
     ask("TxtBas", " ?");
-    EXPECT_EQ(onShow("imgbas"), suitBack) << "a question that counts nothing";
+    EXPECT_EQ(face("imgbas"), suitBack) << "a question that counts nothing";
     click("imgbas");
     EXPECT_FALSE(shows("TxtEdit"));
 
     ask("TxtBas", "Hola mundo");
-    EXPECT_EQ(onShow("imgbas"), card);
-    EXPECT_EQ(at<QWidget>("imgbas").accessibleName(), QStringLiteral("Five of Wands"));
+    EXPECT_EQ(face("imgbas"), card);
+    EXPECT_EQ(spoken("imgbas"), "Five of Wands");
     QTest::keyClick(&at<QWidget>("imgbas"), Qt::Key_Space);
-    EXPECT_EQ(at<QPlainTextEdit>("TxtEdit").toPlainText(), QStringLiteral("A quarrel"));
-    press("ARButtonResult");
-    EXPECT_EQ(at<QWidget>("imgfinal").toolTip(), QStringLiteral("XVII. The Star"));
+    EXPECT_EQ(cardText(), "A quarrel");
+    press(*window, "ARButtonResult");
+    EXPECT_EQ(tipOf(*window, "imgfinal"), "XVII. The Star");
     EXPECT_TRUE(shows("TxtEdit"));
     click("imgfinal");
-    EXPECT_EQ(at<QPlainTextEdit>("TxtEdit").toPlainText(), QStringLiteral("A star"));
+    EXPECT_EQ(cardText(), "A star");
 
     ask("TxtCop", "");
     at<QPlainTextEdit>("TxtEdit").clear();
     click("imgfinal");
-    EXPECT_TRUE(at<QPlainTextEdit>("TxtEdit").toPlainText().isEmpty()) << "each question closes the final card";
+    EXPECT_EQ(cardText(), "") << "each question closes the final card";
 
-    press("ARButtonReset");
+    press(*window, "ARButtonReset");
     EXPECT_FALSE(shows("TxtEdit"));
     EXPECT_TRUE(at<QuestionBox>("TxtBas").toPlainText().isEmpty());
-    EXPECT_EQ(onShow("imgbas"), suitBack);
-    EXPECT_EQ(onShow("imgfinal"), majorBack);
-    EXPECT_EQ(at<QWidget>("imgfinal").accessibleName(), QStringLiteral("Final card, face down"));
+    EXPECT_EQ(face("imgbas"), suitBack);
+    EXPECT_EQ(face("imgfinal"), majorBack);
+    EXPECT_EQ(spoken("imgfinal"), "Final card, face down");
     EXPECT_EQ(window->focusWidget(), &at<QWidget>("TxtEsp"));
 }
 
@@ -88,11 +85,11 @@ TEST_F(OracleWindow, TurnsInvertedCardsAndKeepsTheirRecords) {
     random.numbers = {0.0F, 0.5F};
     open();
     ask("TxtEsp", "Hola mundo");
-    EXPECT_EQ(onShow("imgesp"), card);
-    EXPECT_EQ(at<QWidget>("imgesp").accessibleName(), QStringLiteral("Five of Swords, upright"));
-    press("ARButtonResult");
-    EXPECT_EQ(onShow("imgfinal"), turned);
-    EXPECT_EQ(at<QWidget>("imgfinal").accessibleName(), QStringLiteral("XVII. The Star, inverted"));
+    EXPECT_EQ(face("imgesp"), card);
+    EXPECT_EQ(spoken("imgesp"), "Five of Swords, upright");
+    press(*window, "ARButtonResult");
+    EXPECT_EQ(face("imgfinal"), 0xff000000) << "the last pixel of the picture";
+    EXPECT_EQ(spoken("imgfinal"), "XVII. The Star, inverted");
     const std::string log = files.at("\\logs\\resOracle.log");
     EXPECT_NE(log.find("Question for the swords: Hola mundo\r\nResultant card: 5espadas.jpg (Normal)\r\n"),
               std::string::npos);
@@ -101,26 +98,24 @@ TEST_F(OracleWindow, TurnsInvertedCardsAndKeepsTheirRecords) {
 
 TEST_F(OracleWindow, HoldsTheDateFromTheFirstCardToTheReset) {
     open();
-    auto& button = at<QPushButton>("XPButton1");
     auto& month = at<QCalendarWidget>("MonthView1");
-    EXPECT_EQ(button.text(), QStringLiteral("- Date of reading -\nSunday, November 15 2026"));
+    EXPECT_EQ(textOf(*window, "XPButton1"), "- Date of reading -\nSunday, November 15 2026");
     clock.set({2026, 11, 16});
-    button.click();
+    press(*window, "XPButton1");
     EXPECT_TRUE(shows("MonthView1"));
     EXPECT_EQ(month.selectedDate(), QDate(2026, 11, 16)) << "it opens on the day it is now";
     Q_EMIT month.clicked(QDate(2026, 5, 1));
     EXPECT_FALSE(shows("MonthView1"));
-    EXPECT_EQ(button.text(), QStringLiteral("- Date of reading -\nFriday, May 1 2026"));
+    EXPECT_EQ(textOf(*window, "XPButton1"), "- Date of reading -\nFriday, May 1 2026");
 
     files.at("\\amenores\\3bastos.jpg") = test::pictureBytes(card);
     ask("TxtBas", "Hola mundo"); // 43 and 16
-    button.click();
-    EXPECT_EQ(boxes.shown,
-              (std::vector<test::FakeBoxes::Shown>{
-                  {platform::BoxIcon::warning, "The date must be changed before the read is done!", "Warning"}}));
+    press(*window, "XPButton1");
+    EXPECT_EQ(boxes.shown, (test::Shown{{platform::BoxIcon::warning,
+                                         "The date must be changed before the read is done!", "Warning"}}));
     EXPECT_FALSE(shows("MonthView1"));
-    press("ARButtonReset");
-    button.click();
+    press(*window, "ARButtonReset");
+    press(*window, "XPButton1");
     EXPECT_EQ(month.selectedDate(), QDate(2026, 5, 1));
 }
 

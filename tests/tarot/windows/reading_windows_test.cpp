@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/windows/picture_box.h"
 #include "shell/windows/turned_picture.h"
 #include "support/window_fixture.h"
 #include "tarot/windows/frm_name.h"
 #include "tarot/windows/frm_velmoriax.h"
 
 #include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
 
 namespace velmoriax::tarot {
 namespace {
@@ -23,19 +20,14 @@ struct ReadingWindows : test::WindowFixture {
             files.at("\\imagenes\\" + majorPictureFile(card)) = test::pictureBytes(0xff000000U + unsigned(card));
     }
 
-    static QRgb onShow(const QWidget& window, const char* name) {
-        return control<shell::PictureBox>(window, name).picture().pixel(0, 0);
-    }
     static void type(QWidget& window, const char* name, const char* text) {
         control<QLineEdit>(window, name).setText(QString::fromUtf8(text));
     }
-    static void press(QWidget& window, const char* name) { control<QPushButton>(window, name).click(); }
 };
 
 struct NumbersWindow : ReadingWindows {
     shell::ModuleWindow& window = load<frmVelmoriax>(shell::Module::numbers);
     shell::PictureBox& picture = control<shell::PictureBox>(window, "ImgVelmoriax");
-    QString result() { return control<QLineEdit>(window, "Text2").text(); }
 };
 
 struct NamesWindow : ReadingWindows {
@@ -51,13 +43,13 @@ TEST_F(NumbersWindow, ShowsTheCardAndKeepsWhatTheResetLeaves) {
     type(window, "text1", "77");
     press(window, "ARButtonAcep");
     EXPECT_EQ(onShow(window, "ImgVelmoriax"), 0xff00000eU);
-    EXPECT_EQ(result(), QStringLiteral("It has corresponded... XIV. The Temperance"));
-    EXPECT_EQ(picture.toolTip(), QStringLiteral("XIV. Temperance"));
+    EXPECT_EQ(textOf(window, "Text2"), "It has corresponded... XIV. The Temperance");
+    EXPECT_EQ(tipOf(window, "ImgVelmoriax"), "XIV. Temperance");
 
     press(window, "ARButtonReset");
     EXPECT_EQ(onShow(window, "ImgVelmoriax"), back);
-    EXPECT_TRUE(result().isEmpty() && control<QLineEdit>(window, "text1").text().isEmpty());
-    EXPECT_EQ(picture.toolTip(), QStringLiteral("XIV. Temperance"));
+    EXPECT_EQ(textOf(window, "Text2") + textOf(window, "text1"), "");
+    EXPECT_EQ(tipOf(window, "ImgVelmoriax"), "XIV. Temperance");
     record.cards.currentCard = 3;
     boxes.whileOpen = [this] { EXPECT_TRUE(record.cards.cardDescriptionOpen); };
     Q_EMIT picture.clicked();
@@ -70,14 +62,13 @@ TEST_F(NumbersWindow, RefusesWhatIsNoNumberAndKeepsTheCard) {
     type(window, "text1", "1");
     press(window, "ARButtonAcep");
     QTest::keyClicks(&control<QLineEdit>(window, "text1"), QStringLiteral("234567890123x"));
-    EXPECT_EQ(control<QLineEdit>(window, "text1").text(), QStringLiteral("123456789012"));
+    EXPECT_EQ(textOf(window, "text1"), "123456789012");
     type(window, "text1", "12a");
     QTest::keyClick(&control<QLineEdit>(window, "text1"), Qt::Key_Return);
-    EXPECT_EQ(boxes.shown, (std::vector<test::FakeBoxes::Shown>{
-                               {platform::BoxIcon::warning, "You must enter only numbers", "Info"}}));
-    EXPECT_TRUE(control<QLineEdit>(window, "text1").text().isEmpty());
+    EXPECT_EQ(boxes.shown, (test::Shown{{platform::BoxIcon::warning, "You must enter only numbers", "Info"}}));
+    EXPECT_EQ(textOf(window, "text1"), "");
     EXPECT_EQ(onShow(window, "ImgVelmoriax"), 0xff000001U);
-    EXPECT_EQ(result(), QStringLiteral("It has corresponded... I. The Magician"));
+    EXPECT_EQ(textOf(window, "Text2"), "It has corresponded... I. The Magician");
 }
 
 TEST_F(NumbersWindow, TheCheckMarkAloneDecidesOnTheLog) {
@@ -117,11 +108,11 @@ TEST_F(NamesWindow, WarnsOfEachFieldWithADigitAndReadsTheOthers) {
     press(window, "ARButtonAcep");
     EXPECT_EQ(boxes.shown.size(), 4U);
     EXPECT_EQ(onShow(window, "ImgNombre"), 0xff00000fU);
-    EXPECT_EQ(picture.toolTip(), QStringLiteral("XV. The Devil"));
+    EXPECT_EQ(tipOf(window, "ImgNombre"), "XV. The Devil");
     EXPECT_TRUE(files.at("\\logs\\resNames.log").ends_with("Resultant card: diablo15.jpg\r\n"));
 
     press(window, "ARButtonReset");
-    EXPECT_TRUE(control<QLineEdit>(window, "Text2ape").text().isEmpty());
+    EXPECT_EQ(textOf(window, "Text2ape"), "");
     Q_EMIT picture.clicked();
     EXPECT_EQ(boxes.shown.back().title, "XV. The Devil") << "the reset forgets the names, not the card";
 }
@@ -135,7 +126,7 @@ TEST_F(NamesWindow, EnterWalksThroughTheControlsAndPressesNone) {
         QTest::keyClick(window.focusWidget(), Qt::Key_Return);
     }
     EXPECT_EQ(onShow(window, "ImgNombre"), test::ownBack()) << "no button was pressed on the way";
-    EXPECT_EQ(control<QLineEdit>(window, "Text1nom").text(), QStringLiteral("José"));
+    EXPECT_EQ(textOf(window, "Text1nom"), "José");
     EXPECT_TRUE(boxes.shown.empty());
 }
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "biorhythm/bio_gauge.h"
+#include "biorhythm/compatibility.h"
 #include "biorhythm/cycle_engine.h"
-
-#include <gtest/gtest.h>
+#include "support/helpers.h"
 
 namespace velmoriax::biorhythm {
-
 namespace {
 
 BioState computed(const base::CivilMoment& birth, base::CivilDate reading, base::CivilTime clock) {
@@ -15,8 +14,6 @@ BioState computed(const base::CivilMoment& birth, base::CivilDate reading, base:
     computeAverage(state);
     return state;
 }
-
-} // namespace
 
 TEST(CycleEngine, FollowsAKnownLifeToTheLastBit) {
     const BioState state = computed({{1980, 3, 15}, {7, 45, 0}}, {2026, 6, 20}, {18, 30, 59});
@@ -46,12 +43,7 @@ TEST(CycleEngine, CountsTheAgeThroughTheMinutesOfTheDayOfBirth) {
 }
 
 TEST(CycleEngine, RatesThePrintedAverageByTheBandsAndTheirEdges) {
-    struct Row {
-        double percent;
-        const char* words;
-        const char* reason;
-    };
-    const Row rows[] = {
+    const test::Table<double, const char*, const char*> rows{
         {-100, "(negative: dreadful day)", "the low end"},
         {-80.004, "(negative: super bad day)", "prints as -80.00, which opens the band"},
         {-20, "(negative: regular or critical day)", "lower bounds belong to their band"},
@@ -61,12 +53,12 @@ TEST(CycleEngine, RatesThePrintedAverageByTheBandsAndTheirEdges) {
         {100, "(positive: excellent day)", "the high end"},
         {130, "as before", "in no band: the words stay"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [percent, words, why] : rows) {
         BioState state;
         state.ratingText = "as before";
-        state.cycle.fill(static_cast<float>(row.percent / 100));
+        state.cycle.fill(static_cast<float>(percent / 100));
         computeAverage(state);
-        EXPECT_EQ(state.ratingText, row.words) << row.percent << ": " << row.reason;
+        EXPECT_EQ(state.ratingText, words) << percent << ": " << why;
     }
 }
 
@@ -87,4 +79,50 @@ TEST(BioGauge, ShowsTheAverageOfTodayInFullPrecision) {
     EXPECT_EQ(trendOf(0.5F, 0.5F), Trend::level);
 }
 
+TEST(Compatibility, ComparesBirthsForGood) {
+    Compatibility record;
+    const CompatibilityLabels labels = showGeneral(record, {1980, 3, 15}, {1980, 1, 1});
+    EXPECT_EQ(labels.cycles[physical], "Physical: 56.52 %");
+    EXPECT_EQ(labels.cycles[emotional], "Emotional: 28.57 %");
+    EXPECT_EQ(labels.cycles[intuition], "Intuition: 89.47 %");
+    EXPECT_EQ(labels.mean, "Mean (Physi + Emo + Intell + Intui): 56.52 % (little affinity)");
+    EXPECT_EQ(showGeneral(record, {1980, 1, 1}, {1980, 3, 15}).mean, labels.mean) << "the order does not matter";
+    EXPECT_EQ(showGeneral(record, {1980, 1, 1}, {1980, 1, 1}).mean,
+              "Mean (Physi + Emo + Intell + Intui): 100.00 % (excellent attuned)");
+    EXPECT_EQ(showGeneral(record, {1980, 1, 1}, {1980, 1, 12}).cycles[physical], "Physical: 4.35 %")
+        << "an odd period has no exact half";
+    const base::CivilDate farAway = base::civilDateOfDay(base::dayNumber({1900, 1, 1}) + 23 * 1748);
+    EXPECT_EQ(showGeneral(record, {1900, 1, 1}, farAway).cycles[physical], "Physical: 100.00 %") << "beyond 16 bits";
+}
+
+TEST(Compatibility, AveragesThePresentValues) {
+    const base::CivilMoment birth{{1980, 3, 15}, {7, 45, 0}};
+    SecondProfile second{"Ann's twin", false, birth.date, birth.time, 0};
+    Compatibility record;
+    takeMainCycles(record, cyclesAt(livedOf(birth, {2026, 6, 20}, {18, 30, 0}).lived));
+    CompatibilityLabels labels = showActual(record, second, {2026, 6, 20}, {18, 30, 0});
+    EXPECT_EQ(labels.cycles[intellectual], "Intellectual: 72.36 %") << "of a sine of 0.4471822, twice";
+    EXPECT_EQ(labels.cycles[emotional], "Emotional: 45.13 %");
+    EXPECT_EQ(record.levelWord, "few affinity") << labels.mean;
+    record.mainPercent.fill(50);
+    second.secondTime = {18, 30, 0};
+    labels = showActual(record, second, birth.date, {18, 30, 0});
+    EXPECT_EQ(labels.cycles[physical], "Physical: 50 %") << "no decimals that the number does not have";
+    EXPECT_EQ(labels.mean, "Mean (Physi + Emo + Intell + Intui): 50.00 % (little affinity)");
+}
+
+TEST(Compatibility, NamesTheLevelByItsLowerBound) {
+    const test::Table<float, const char*> rows{
+        {0, "practically nothing"}, {20, "few affinity"},      {40, "little affinity"},    {60, "much affinity"},
+        {79.996F, "much affinity"}, {80, "excellent attuned"}, {100, "excellent attuned"}, {100.1F, "as before"}};
+    for (const auto& [mean, word] : rows) {
+        Compatibility record;
+        record.levelWord = "as before";
+        record.meanPercent = mean;
+        Niveles(record);
+        EXPECT_EQ(record.levelWord, word) << mean;
+    }
+}
+
+} // namespace
 } // namespace velmoriax::biorhythm

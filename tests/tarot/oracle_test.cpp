@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tarot/oracle_reading.h"
-
 #include "base/run_time_error.h"
 #include "support/fakes.h"
-
-#include <gtest/gtest.h>
+#include "tarot/ambient_sound.h"
+#include "tarot/oracle_view.h"
 
 namespace velmoriax::tarot {
 namespace {
@@ -36,12 +34,7 @@ struct Oracle : testing::Test {
 };
 
 TEST(Sustituir, CountsLettersAndDigitsAndNothingElse) {
-    struct Case {
-        std::string_view text;
-        int sum;
-        const char* why;
-    };
-    const Case cases[]{
+    const test::Table<const char*, int, const char*> rows{
         {"Hola mundo", 43, "blanks fall out"},
         {"Mañana", 18, "ñ counts 6"},
         {"MAÑANA", 18, "capitals count as small letters"},
@@ -52,14 +45,14 @@ TEST(Sustituir, CountsLettersAndDigitsAndNothingElse) {
         {"üçàß¿?-'\t\n.", 0, "no letters of the table"},
         {"😀 שלום مرحبا ١٢", 0, "other scripts and their digits"},
     };
-    for (const Case& row : cases) EXPECT_EQ(sustituir(row.text), row.sum) << row.text << ": " << row.why;
+    for (const auto& [text, sum, why] : rows) EXPECT_EQ(sustituir(text), sum) << text << ": " << why;
     EXPECT_EQ(sustituir(textWorth(32767)), 32767);
     EXPECT_THROW(sustituir(textWorth(32768)), base::RunTimeError);
 }
 
 TEST_F(Oracle, ThrowsForRealUnlessTheOptionIsEmptyOrObjective) {
-    const std::pair<const char*, bool> cases[]{{"", false}, {"objetiva", false}, {"real", true}, {"Objetiva", true}};
-    for (const auto& [value, real] : cases) {
+    const test::Table<const char*, bool> rows{{"", false}, {"objetiva", false}, {"real", true}, {"Objetiva", true}};
+    for (const auto& [value, real] : rows) {
         options.setOption(shell::key::tirada, value);
         readThrowOption(state, options);
         EXPECT_EQ(state.realThrow, real) << value;
@@ -72,11 +65,9 @@ TEST_F(Oracle, DrawsTheSuitsCardFromWordsAndDate) {
     services.applicationDirectory = "C:\\";
     EXPECT_EQ(draw(Suit::batons, "Hola mundo")->drawn.picturePath, "C:\\5bastos.jpg") << "a root has no folders";
 
-    const std::pair<int, const char*> cases[]{{1, "1oros.jpg"},  {14, "rey-oros.jpg"}, {15, "1oros.jpg"},
-                                              {22, "8oros.jpg"}, {23, "9oros.jpg"},    {25, "sota-oros.jpg"},
-                                              {44, "2oros.jpg"}, {45, "3oros.jpg"}};
     state.readingDate = {2020, 1, 9}; // digits 14: the words alone decide
-    for (const auto& [words, picture] : cases)
+    for (const auto& [words, picture] : test::Table<int, const char*>{
+             {1, "1oros.jpg"}, {14, "rey-oros.jpg"}, {15, "1oros.jpg"}, {25, "sota-oros.jpg"}, {44, "2oros.jpg"}})
         EXPECT_EQ(draw(Suit::golds, textWorth(words))->drawn.pictureFile, picture) << words;
 }
 
@@ -91,23 +82,17 @@ TEST_F(Oracle, AQuestionThatCountsNothingOnlyClosesTheFinalCard) {
 }
 
 TEST_F(Oracle, AddsWordSumsAndDateToTheFinalCard) {
-    struct Case {
-        std::array<int, 4> words; // batons, cups, swords, golds; the date adds 18
-        const char* picture;
-        const char* why;
-    };
-    const Case cases[]{
+    const test::Table<std::array<int, 4>, std::string, const char*> rows{
+        // batons, cups, swords, golds; the date adds 18
         {{43, 0, 20, 0}, "diablo15.jpg", "81 less 66"},
         {{1, 1, 1, 1}, "mundo22.jpg", "a total of 22 stays"},
         {{0, 5, 0, 0}, "mago1.jpg", "23 begins again"},
-        {{0, 0, 13, 13}, "mundo22.jpg", "44"},
-        {{27, 0, 0, 0}, "mago1.jpg", "45"},
     };
-    for (const Case& row : cases) {
+    for (const auto& [words, picture, why] : rows) {
         resetReading(state);
-        for (std::size_t i = 0; i < 4; ++i) draw(static_cast<Suit>(i), row.words[i] ? textWorth(row.words[i]) : "");
+        for (std::size_t i = 0; i < 4; ++i) draw(static_cast<Suit>(i), words[i] ? textWorth(words[i]) : "");
         const auto reading = drawFinal();
-        EXPECT_EQ(reading->drawn.picturePath, files.directory + "\\imagenes\\" + row.picture) << row.why;
+        EXPECT_EQ(reading->drawn.picturePath, files.directory + "\\imagenes\\" + picture) << why;
         EXPECT_EQ(reading->drawn.tip, majorCard(state.globalCard).tipName);
         EXPECT_EQ(cards.currentCard, state.currentCardNumber);
     }
@@ -171,6 +156,103 @@ TEST_F(Oracle, OpensTheTextsOfDrawnCardsUntilADateOrAResetClosesThem) {
     EXPECT_FALSE(state.readingStarted || openSuitText(Suit::cups, state, files.directory));
     EXPECT_TRUE(state.dateChosen);
     EXPECT_EQ(dateButtonCaption(state.readingDate), "- Date of reading -\nMonday, January 5 2026");
+}
+
+TEST_F(Oracle, OffersADateUntilTheReadingHasStarted) {
+    state.readingDate = {2026, 11, 14}; // the window was opened yesterday
+    EXPECT_EQ(dateToOffer(state, november15), november15);
+    chooseDate(state, {1969, 7, 20});
+    EXPECT_EQ(dateToOffer(state, november15), (base::CivilDate{1969, 7, 20}));
+    state.readingStarted = true;
+    EXPECT_FALSE(dateToOffer(state, november15));
+    resetReading(state);
+    EXPECT_EQ(dateToOffer(state, november15), (base::CivilDate{1969, 7, 20})) << "the reset keeps the choice";
+}
+
+TEST_F(Oracle, TellsTheCardAndReadsItsTextInTheCodePage) {
+    files.at("\\mtextos\\1oros.txt") = "Se\xF1or\r\n\x80";
+    EXPECT_EQ(cardText(files, files.directory + "\\mtextos\\1oros.txt"), "Señor\r\n€");
+    EXPECT_THROW(cardText(files, files.directory + "\\mtextos\\2oros.txt"), base::RunTimeError);
+    EXPECT_EQ(spokenCard(spokenName(Suit::batons, 5), Orientation::inverted), "Five of Wands, inverted");
+    EXPECT_EQ(spokenCard(spokenName(Suit::golds, 14), Orientation::notThrown), "King of Coins");
+    EXPECT_EQ(spokenCard(spokenName(Suit::swords, 1), Orientation::normal), "Ace of Swords, upright");
+}
+
+using Mode = platform::Media::Mode;
+
+struct Ambient : testing::Test {
+    test::FakeFiles files;
+    test::FakeMedia media;
+    test::FakeEvents events;
+    shell::OptionsStore options{files};
+    AmbientServices services{media, events, options, files.directory};
+    AmbientSound sound;
+    std::string supplied = files.directory + "\\Are You Lonesome Tonight.mid";
+
+    Ambient() { media.songs = {supplied, "/music/own.mid"}; }
+};
+
+TEST_F(Ambient, StartsByTheTwoOptions) {
+    using Starts = std::vector<std::string>;
+    const test::Table<const char*, const char*, bool, Starts, const char*> rows{
+        {"", "", true, {supplied}, "sound is on by default"},
+        {"yes", "/music/own.mid", true, {"/music/own.mid"}, "the user's own song"},
+        {"nop", "", false, {}, "switched off"},
+        {"Yes", "", false, {}, "words are compared exactly"},
+        {"yes", "/music/gone.mid", true, {}, "the switch stands on over a song that is missing"},
+    };
+    for (const auto& [wanted, song, on, starts, why] : rows) {
+        options.setOption(shell::key::soundAmbient, wanted);
+        options.setOption(shell::key::songAmbient, song);
+        media.starts.clear();
+        sound = {7, "", true};
+        EXPECT_EQ(startAmbient(sound, services), on) << why;
+        EXPECT_EQ(sound.timerOn, on) << why;
+        EXPECT_EQ(media.starts, starts) << why;
+        if (on) EXPECT_EQ(sound.midiDeviceId != 0, !starts.empty()) << why;
+    }
+}
+
+TEST_F(Ambient, LetsEventsRunBetweenOpeningAndPlaying) {
+    events.whatRuns = [this] {
+        EXPECT_EQ(media.mode(media.openDevice), Mode::stopped);
+        EXPECT_EQ(sound.midiDeviceId, 0) << "the device is known only afterwards";
+        tickMidi(sound, media);
+    };
+    startAmbient(sound, services);
+    EXPECT_EQ(events.runs, 1);
+    EXPECT_EQ(media.starts.size(), 1U);
+}
+
+TEST_F(Ambient, BeginsAgainOnlyFromTheEnd) {
+    startAmbient(sound, services);
+    tickMidi(sound, media);
+    EXPECT_EQ(media.starts.size(), 1U);
+    media.ends();
+    tickMidi(sound, media);
+    EXPECT_EQ(media.starts, (std::vector{supplied, supplied}));
+    stopMidi(sound, media);
+    EXPECT_NE(sound.midiDeviceId, 0) << "the number stays when the window closes";
+    tickMidi(sound, media);
+    EXPECT_EQ(media.starts.size(), 2U);
+}
+
+TEST_F(Ambient, SwitchesAndTakesAChosenSongAtTheNextStart) {
+    test::FakeBoxes boxes;
+    startAmbient(sound, services);
+    boxes.fileAnswers = {"/music/own.mid", std::nullopt};
+    chooseSong(boxes, services);
+    chooseSong(boxes, services);
+    EXPECT_EQ(options.option(shell::key::songAmbient), "/music/own.mid") << "a cancel leaves it";
+    EXPECT_EQ(media.song, supplied) << "what plays goes on";
+
+    switchAmbientOff(sound, services);
+    EXPECT_EQ(media.openDevice, 0);
+    EXPECT_FALSE(sound.timerOn);
+    EXPECT_EQ(options.option(shell::key::soundAmbient), "nop");
+    switchAmbientOn(sound, services);
+    EXPECT_EQ(media.starts.back(), "/music/own.mid");
+    EXPECT_EQ(options.option(shell::key::soundAmbient), "yes");
 }
 
 } // namespace

@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "base/run_time_error.h"
 #include "biorhythm/profile_editor.h"
+#include "biorhythm/profile_files.h"
 #include "biorhythm/profile_store.h"
-#include "tests/support/fakes.h"
-
-#include <gtest/gtest.h>
+#include "support/fakes.h"
 
 namespace velmoriax::biorhythm {
-
 namespace {
 
+using Code = base::RunTimeError::Code;
+constexpr base::CivilDate today{2026, 11, 15};
 constexpr base::CivilDate annsBirth{1980, 3, 15};
 constexpr std::string_view annsLine = "Ann,March/15/1980,7:45";
 
-class ProfileStore : public testing::Test {
-protected:
+struct ProfileStore : testing::Test {
     std::string& list() { return files.at("\\perfiles.txt"); }
 
     std::optional<std::string> save(const std::string& name, std::string_view time) {
@@ -26,8 +24,6 @@ protected:
     test::FakeBoxes boxes;
     shell::OptionsStore options{files};
 };
-
-} // namespace
 
 TEST_F(ProfileStore, SavesARecordOnceAndASecondOneOfTheSameName) {
     EXPECT_EQ(save("Ann", "7:05"), "Ann");
@@ -52,12 +48,7 @@ TEST_F(ProfileStore, KeepsNamesInTheWesternCodePage) {
 }
 
 TEST_F(ProfileStore, ReadsWhatOtherHandsLeftInTheList) {
-    struct Row {
-        const char* line;
-        std::optional<base::CivilTime> time;
-        const char* reason;
-    };
-    const Row rows[] = {
+    const test::Table<std::string, std::optional<base::CivilTime>, const char*> rows{
         {"Ann,March/15/1980,7:5", base::CivilTime{7, 5, 0}, "the editor's minute without padding"},
         {"Ann", std::nullopt, "a name alone"},
         {"Ann,March/15/1980", std::nullopt, "no time"},
@@ -66,12 +57,12 @@ TEST_F(ProfileStore, ReadsWhatOtherHandsLeftInTheList) {
         {"Ann,March/15/4294969276,7:45", std::nullopt, "a year that folds onto 1980 in 32 bits"},
         {"Ann, Sample,March/15/1980,7:45", std::nullopt, "a comma in the name"},
     };
-    for (const Row& row : rows) {
-        list() = std::string("Bea,May/1/1990,8:00\n\r\n") + row.line;
+    for (const auto& [line, time, why] : rows) {
+        list() = "Bea,May/1/1990,8:00\n\r\n" + line;
         const auto birth = findProfile(files, "Ann");
-        ASSERT_EQ(birth.has_value(), row.time.has_value()) << row.reason;
-        if (birth) EXPECT_EQ(*birth, (base::CivilMoment{annsBirth, *row.time})) << row.reason;
-        EXPECT_EQ(profileLines(files), (std::vector<std::string>{"Bea,May/1/1990,8:00", row.line})) << row.reason;
+        ASSERT_EQ(birth.has_value(), time.has_value()) << why;
+        if (birth) EXPECT_EQ(*birth, (base::CivilMoment{annsBirth, *time})) << why;
+        EXPECT_EQ(profileLines(files), (std::vector<std::string>{"Bea,May/1/1990,8:00", line})) << why;
     }
     list() = std::string(1 << 20, ',') + "\r\n" + std::string(annsLine);
     EXPECT_TRUE(findProfile(files, "Ann"));
@@ -96,19 +87,11 @@ TEST_F(ProfileStore, DeletesEveryLineThatHoldsTheSelectedOneAndCopiesTheRestToTh
     EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST_F(ProfileStore, TellsWhyARewriteFailsAndLeavesTheList) {
+TEST_F(ProfileStore, LeavesAListAloneThatCannotBeRead) {
     list() = annsLine;
-    files.temporaryFolderMissing = true;
-    EXPECT_FALSE(copyWithoutProfile(files, boxes, annsLine, deleteMessages));
-    EXPECT_EQ(boxes.shown.back().text, "Error getting temporary file path.");
-    files.temporaryFolderMissing = false;
-    files.temporaryNameFails = true;
-    removeProfileLines(files, boxes, annsLine, modifyMessages);
-    EXPECT_EQ(boxes.shown.back().text, "Error searching the name of file.");
-    files.temporaryNameFails = false;
     files.unreadable.insert("/home/ann/velmoriax/perfiles.txt");
     removeProfileLines(files, boxes, annsLine, deleteMessages);
-    EXPECT_EQ(boxes.shown.size(), 2U) << "a list that cannot be read is left alone in silence";
+    EXPECT_TRUE(boxes.shown.empty()) << "in silence";
     EXPECT_EQ(list(), annsLine);
 }
 
@@ -132,4 +115,82 @@ TEST(ProfileList, SelectsTheStoredNameElseAnEndOfTheList) {
     EXPECT_EQ(selectedAfterEdit(names, "Cid"), 2U);
 }
 
+struct ProfileFiles : testing::Test {
+    test::FakeFiles files;
+    BioState state;
+};
+
+TEST_F(ProfileFiles, ComeIntoBeingUnsetAndOnlyWhereTheyAreMissing) {
+    files.at("\\horabio.dat") = "spoiled";
+    createMissingProfileFiles(files);
+    EXPECT_EQ(files.at("\\bio.dat"), "1,1,1900\r\n");
+    EXPECT_EQ(files.at("\\biofinal.dat"), "0,0,0\r\n");
+    EXPECT_EQ(files.at("\\horabio.dat"), "spoiled");
+    files.contents.erase("/home/ann/velmoriax/horabio.dat");
+    createMissingProfileFiles(files);
+    loadBirth(files, state);
+    loadBirthTime(files, state);
+    loadFinalDate(files, state, today);
+    EXPECT_FALSE(birthDateIsSet(state));
+    EXPECT_EQ(birthOf(state).time, (base::CivilTime{12, 0, 0}));
+    EXPECT_EQ(finalDateOf(state), today) << "a target that is not set is today";
+}
+
+TEST_F(ProfileFiles, AreWrittenToTheByteAndReadBack) {
+    const base::CivilMoment birth{{1980, 3, 15}, {7, 45, 0}};
+    saveBioState(files, state, birth, {2030, 12, 1});
+    EXPECT_EQ(files.at("\\bio.dat"), "15,3,1980\r\n");
+    EXPECT_EQ(files.at("\\biofinal.dat"), "1,12,2030\r\n");
+    EXPECT_EQ(files.at("\\horabio.dat"), "7,45\r\n");
+    BioState again;
+    loadBirth(files, again);
+    loadBirthTime(files, again);
+    EXPECT_EQ(birthOf(again), birth);
+    files.readOnly = true;
+    EXPECT_EQ(test::codeOf([&] { saveBirthTime(files, state, {8, 0, 0}); }), Code::pathFileAccess);
+    EXPECT_EQ(files.at("\\horabio.dat"), "7,45\r\n");
+}
+
+TEST_F(ProfileFiles, AreReadExactlyOrNotAtAll) {
+    const test::Table<const char*, std::optional<Code>, const char*> rows{
+        {"15,3,1980", std::nullopt, "no line end"},
+        {" 15 ,\t3, 1980 \r\n\r\n", std::nullopt, "blanks around the numbers"},
+        {"", Code::inputPastEndOfFile, "empty"},
+        {"15,3", Code::inputPastEndOfFile, "truncated between numbers"},
+        {"15,3,", Code::inputPastEndOfFile, "truncated behind a comma"},
+        {"15,3,1980,", Code::typeMismatch, "a field too many"},
+        {"15,March,1980", Code::typeMismatch, "a word"},
+        {"15.4,3,1980", Code::typeMismatch, "a fraction would have to be rounded"},
+        {"15,13,1980", Code::typeMismatch, "no such month"},
+        {"31,2,1980", Code::typeMismatch, "no such day"},
+        {"15,3,80", Code::typeMismatch, "no year of two digits is completed"},
+        {"15,3,32768", Code::overflow, "beyond 16 bits"},
+        {"15,3,-99999999999999999999999", Code::overflow, "beyond any number"},
+    };
+    for (const auto& [content, code, why] : rows) {
+        files.at("\\bio.dat") = content;
+        state = {};
+        const auto error = test::errorOf([&] { loadBirth(files, state); });
+        ASSERT_EQ(error.has_value(), code.has_value()) << why;
+        EXPECT_EQ(birthDateIsSet(state), !error) << why << ": nothing is taken of a file that fails";
+        if (!error) continue;
+        EXPECT_EQ(error->code(), code) << why;
+        EXPECT_EQ(error->detail(), "bio.dat") << why;
+    }
+}
+
+TEST_F(ProfileFiles, NameTheFileThatFails) {
+    EXPECT_EQ(test::errorOf([&] { loadFinalDate(files, state, today); })->message(),
+              "Run-time error '53': File not found\nbiofinal.dat");
+    files.at("\\biofinal.dat") = "0,0,1";
+    EXPECT_EQ(test::codeOf([&] { loadFinalDate(files, state, today); }), Code::typeMismatch);
+    files.at("\\horabio.dat") = "24,0";
+    EXPECT_EQ(test::errorOf([&] { loadBirthTime(files, state); })->detail(), "horabio.dat");
+    files.unreadable.insert("/home/ann/velmoriax/horabio.dat");
+    EXPECT_EQ(test::codeOf([&] { loadBirthTime(files, state); }), Code::pathFileAccess);
+    createMissingProfileFiles(files);
+    EXPECT_EQ(files.at("\\horabio.dat"), "24,0") << "what cannot be read is not replaced by a default";
+}
+
+} // namespace
 } // namespace velmoriax::biorhythm

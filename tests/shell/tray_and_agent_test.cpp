@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/background_agent.h"
 #include "shell/popup_places.h"
 #include "shell/task_bar_metrics.h"
 #include "shell/tip_watch.h"
 #include "shell/tray_tip.h"
 #include "support/fakes.h"
-
-#include <gtest/gtest.h>
 
 namespace velmoriax::shell {
 namespace {
@@ -106,18 +105,19 @@ TEST(TrayTip, IsBuiltOnceFromDatePlanetAndFourLines) {
 }
 
 TEST(TrayTip, AnyOfThreeMarksMeansNoBirthDate) {
-    struct Row {
-        base::CivilDate birth;
-        const char* why;
+    const test::Table<base::CivilDate, const char*> rows{
+        {{1900, 1, 1}, "the mark itself"},
+        {{1975, 3, 1}, "a real first of March"},
+        {{1975, 1, 14}, "a real January"},
+        {{1900, 3, 14}, "a real 1900"},
     };
     Lines source;
-    for (const Row& row : {Row{{1900, 1, 1}, "the mark itself"}, Row{{1975, 3, 1}, "a real first of March"},
-                           Row{{1975, 1, 14}, "a real January"}, Row{{1900, 3, 14}, "a real 1900"}}) {
-        EXPECT_EQ(balloonText(row.birth, {2026, 11, 15}, source),
-                  "ToolTps din\xC3\xA1micos cuando se actualice la fecha de nacimiento para los biorritmos!")
-            << row.why;
-        const PersonalTip tip = personalTip(row.birth, {2026, 11, 15}, source);
-        EXPECT_TRUE(tip.date.empty()) << row.why;
+    for (const auto& [birth, why] : rows) {
+        EXPECT_EQ(balloonText(birth, {2026, 11, 15}, source),
+                  "ToolTps dinámicos cuando se actualice la fecha de nacimiento para los biorritmos!")
+            << why;
+        const PersonalTip tip = personalTip(birth, {2026, 11, 15}, source);
+        EXPECT_TRUE(tip.date.empty()) << why;
         EXPECT_EQ(tip.lines, "Dinamic ToolTps \r\nwhen the date of birth \r\nbe updated for the biorhythms!");
     }
     EXPECT_EQ(source.calls, 0) << "no line may be worked out";
@@ -137,17 +137,15 @@ TEST(TaskBarMetrics, ReportAndEdge) {
 }
 
 TEST(PopupPlaces, NotificationTakesItsSizeFromTheLength) {
-    const auto is = [](std::size_t length, NotifBack back, int height) {
-        const NotifSize size = notifSize(length);
-        EXPECT_EQ(size.back, back) << length;
-        EXPECT_EQ(size.height, height) << length;
+    using enum NotifBack;
+    const test::Table<std::size_t, NotifBack, int> rows{
+        {0, small, 120},    {149, small, 120}, {150, middle, 178},
+        {265, middle, 178}, {266, large, 243}, {600, large, 243},
     };
-    is(0, NotifBack::small, 120);
-    is(149, NotifBack::small, 120);
-    is(150, NotifBack::middle, 178);
-    is(265, NotifBack::middle, 178);
-    is(266, NotifBack::large, 243);
-    is(600, NotifBack::large, 243);
+    for (const auto& [length, back, height] : rows) {
+        EXPECT_EQ(notifSize(length).back, back) << length;
+        EXPECT_EQ(notifSize(length).height, height) << length;
+    }
 }
 
 TEST(PopupPlaces, NotificationStandsOnThePanelOrLeavesItsRoomFree) {
@@ -183,6 +181,70 @@ TEST(PopupPlaces, PersonalTipStandsOverTheLowestTwentieth) {
     const ScreenMeasures betweenPanels{0, 0, 1280, 1000, 50, 0, 60};
     EXPECT_EQ(personalTipLeft(betweenPanels, 400, 30), 60) << "not over the icon";
     EXPECT_EQ(personalTipLeft(betweenPanels, 400, 1260), 830);
+}
+
+struct BackgroundAgent : testing::Test {
+    void start(base::CivilTime time) { startUptime(agent, base::dateValueOf({2026, 11, 15}, time)); }
+
+    /// Ticks once a second from the moment on.
+    void run(base::CivilDate date, base::CivilTime from, int seconds) {
+        const int first = from.hour * 3600 + from.minute * 60 + from.second;
+        for (int second = first; second < first + seconds; ++second) tick(date, second);
+    }
+    void tick(base::CivilDate date, int second) {
+        const base::CivilDate day = base::civilDateOfDay(base::dayNumber(date) + second / 86400);
+        timeUpTick(agent, base::dateValueOf(day, {second / 3600 % 24, second / 60 % 60, second % 60}), false);
+    }
+
+    AgentRecord agent;
+};
+
+TEST_F(BackgroundAgent, UptimeGoesOnOverMidnightAndDaysCount) {
+    start({23, 0, 0});
+    run({2026, 11, 15}, {23, 0, 0}, 3601);
+    EXPECT_EQ(agent.LblTime, "0:00:00");
+    EXPECT_EQ(agent.LblUptime, "22:00:01") << "the text of a negative time in the very tick of midnight";
+    run({2026, 11, 16}, {0, 0, 1}, 1);
+    EXPECT_EQ(agent.LblUptime, "1:00:00");
+    EXPECT_EQ(agent.LblDias, "0d ");
+    run({2026, 11, 16}, {0, 0, 2}, 23 * 3600);
+    EXPECT_EQ(agent.LblDias, "1d ");
+    run({2026, 11, 16}, {23, 0, 2}, 2 * 86400);
+    EXPECT_EQ(agent.LblDias, "3d ");
+}
+
+TEST_F(BackgroundAgent, ABusySecondBeforeMidnightLosesTheStretchOfTheDay) {
+    start({23, 59, 0});
+    for (const int second : {86398, 86400, 86405}) tick({2026, 11, 15}, second);
+    EXPECT_EQ(agent.LblUptime, "0:00:05");
+}
+
+TEST_F(BackgroundAgent, TheNotificationStandsThirtyTicks) {
+    const base::DateValue now = 46341.5;
+    for (int i = 1; i < 30; ++i) EXPECT_FALSE(timeUpTick(agent, now, true)) << i;
+    EXPECT_TRUE(timeUpTick(agent, now, true));
+    EXPECT_EQ(agent.notifTicks, 0);
+    for (int i = 0; i < 20; ++i) timeUpTick(agent, now, true);
+    EXPECT_FALSE(timeUpTick(agent, now, false)) << "closed earlier";
+    EXPECT_EQ(agent.notifTicks, 0) << "a count does not go on with the next notification";
+}
+
+TEST_F(BackgroundAgent, AlertsRunEverySixtiethHalfMinute) {
+    for (int round = 0; round < 2; ++round) {
+        for (int i = 1; i < 60; ++i) EXPECT_FALSE(timerBioTick(agent));
+        EXPECT_TRUE(timerBioTick(agent));
+    }
+}
+
+TEST_F(BackgroundAgent, TheCardIsWorkedOutOnceADay) {
+    tarot::CardState cards;
+    tipcartadia(agent, {2026, 11, 15}, "/home/ann/velmoriax", "marsellaone", cards);
+    EXPECT_EQ(agent.tipCard, "Card of Day: XVIII. The Moon");
+    cards.currentCard = 3;
+    tipcartadia(agent, {2026, 11, 15}, "/home/ann/velmoriax", "marsellaone", cards);
+    EXPECT_EQ(cards.currentCard, 3) << "nothing is computed a second time";
+    tipcartadia(agent, {2026, 11, 16}, "/home/ann/velmoriax", "marsellaone", cards);
+    EXPECT_EQ(agent.tipCard, "Card of Day: XIX. The Sun");
 }
 
 } // namespace

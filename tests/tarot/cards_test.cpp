@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/date_text.h"
+#include "base/run_time_error.h"
+#include "support/helpers.h"
+#include "tarot/card_catalogue.h"
+#include "tarot/card_descriptions.h"
+
+#include <algorithm>
+#include <set>
+
+namespace velmoriax::tarot {
+namespace {
+
+const std::string home = "/home/ann/velmoriax";
+
+TEST(CardCatalogue, DatesBecomeCards) {
+    const test::Table<const char*, int, int, const char*, const char*> rows{
+        {"11/15/2026", 18, 18, "XVIII. The Moon", "stands as it is"},
+        {"15-11-2026", 18, 18, "XVIII. The Moon", "order and separators do not count"},
+        {"9/29/2026", 30, 8, "VIII. Justice", "once less 22"},
+        {"9/9/2020", 22, 22, "XXII. The World", "22 is not reduced"},
+        {"9/9/2021", 23, 1, "I. The Magician", "23 begins anew"},
+        {"9/29/1999", 48, 4, "IV. The Emperor", "twice less 22"},
+        {"2/29/2000", 15, 15, "XV. The Devil", "a leap day"},
+    };
+    CardState state;
+    for (const auto& [date, sum, card, name, why] : rows) {
+        const DateReading reading = sumcartdia(date, home, "marsellaone", state);
+        EXPECT_EQ(reading.digitSum, sum) << why;
+        EXPECT_EQ(reading.card, card) << why;
+        EXPECT_EQ(reading.name, name) << why;
+        EXPECT_EQ(state.currentCard, card) << why;
+    }
+    EXPECT_THROW(sumcartdia("//", home, "marsellaone", state), base::RunTimeError);
+}
+
+TEST(CardCatalogue, ReductionsBeginAnewBehindTheLastCard) {
+    for (const auto& [sum, card] : test::Table<int, int>{{44, 22}, {45, 1}, {0, 0}})
+        EXPECT_EQ(reducedToMajor(sum), card);
+    EXPECT_EQ(reducedToMinor(14), 14);
+    EXPECT_EQ(reducedToMinor(15), 1);
+}
+
+TEST(CardCatalogue, ANameIsFilledWhenItsCardIsDrawnAndNoOther) {
+    CardState state;
+    for (const std::int16_t card : {14, 0, 23, -1}) {
+        state.currentCard = card;
+        fillCardTipName(state);
+    }
+    EXPECT_EQ(state.cardTipNames[13], "XIV. Temperance");
+    EXPECT_EQ(std::ranges::count(state.cardTipNames, ""), 21);
+    EXPECT_EQ(majorCard(14).numbersName, "XIV. The Temperance");
+}
+
+TEST(CardCatalogue, PicturesAndTextsHaveTheirNamesAndFolders) {
+    EXPECT_EQ(majorPictureFile(6), "amantes6.jpg");
+    EXPECT_EQ(majorTextFile(6), "enamorados6.txt") << "the sixth card has two stems";
+    EXPECT_EQ(majorPictureDir(home, "oldones") + majorPictureFile(9), home + "\\imagenes3\\ermitaño9.jpg");
+    EXPECT_EQ(majorPictureDir(home, "Oldones"), home) << "decks are compared exactly";
+    EXPECT_EQ(minorTextDir(home), home + "\\mtextos\\");
+    EXPECT_THROW(majorPictureFile(0), base::RunTimeError);
+    EXPECT_THROW(majorTextFile(23), base::RunTimeError);
+}
+
+TEST(CardCatalogue, ARootTakesNoSubdirectoryExceptForTheBacks) {
+    for (const char* deck : {"marsellaone", "marsellaclass", "oldones"}) EXPECT_EQ(majorPictureDir("/ab", deck), "/ab");
+    EXPECT_EQ(minorPictureDir("/ab"), "/ab");
+    EXPECT_EQ(majorTextDir("/ab"), "/ab");
+    EXPECT_EQ(suitBackPath("/ab"), "/ab\\amenores\\reverso.jpg");
+}
+
+TEST(CardCatalogue, TheFiftySixMinorsHaveNamesOfTheirOwn) {
+    std::set<std::string> names;
+    for (const Suit suit : {Suit::batons, Suit::cups, Suit::swords, Suit::golds})
+        for (int index = 1; index <= suitCards; ++index) names.insert(minorPictureFile(suit, index));
+    EXPECT_EQ(names.size(), 56U);
+    for (const char* known :
+         {"1bastos.jpg", "10espadas.jpg", "sota-copas.jpg", "caballo-oros.jpg", "reina-bastos.jpg", "rey-oros.jpg"})
+        EXPECT_TRUE(names.contains(known)) << known;
+    EXPECT_EQ(minorTextFile(Suit::golds, 14), "rey-oros.txt");
+    for (const int outside : {0, 15}) EXPECT_THROW(minorPictureFile(Suit::cups, outside), base::RunTimeError);
+}
+
+// No two texts are of one length, so that the length tells the card as well as that nothing is missing.
+TEST(CardDescriptions, EveryCardHasItsPiecesAndLengthAndIsPlainAscii) {
+    const test::Table<int, std::size_t> rows{{3, 998}, {3, 1012}, {3, 864},  {3, 801}, {3, 916}, {3, 947},
+                                             {3, 961}, {5, 863},  {3, 1001}, {3, 811}, {3, 938}, {3, 856},
+                                             {4, 778}, {3, 906},  {4, 796},  {3, 978}, {4, 930}, {3, 918},
+                                             {5, 952}, {3, 949},  {2, 1021}, {2, 777}};
+    for (int card = 1; card <= majorCards; ++card) {
+        SCOPED_TRACE(card);
+        const auto& [pieceCount, length] = rows.at(static_cast<std::size_t>(card - 1));
+        const auto pieces = cardDescriptionPieces(card);
+        std::string text;
+        for (const std::string_view piece : pieces) {
+            const bool startsWithBlank = !text.empty() && card != 22;
+            EXPECT_EQ(piece.find_first_not_of(' '), startsWithBlank ? 1U : 0U) << piece;
+            EXPECT_NE(piece.back(), ' ') << piece;
+            text += piece;
+        }
+        EXPECT_EQ(std::ssize(pieces), pieceCount);
+        EXPECT_EQ(text.size(), length);
+        EXPECT_TRUE(std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; }));
+    }
+    EXPECT_TRUE(cardDescriptionPieces(8).back().ends_with("Sephirot: Hod (Splendor, astral plane)."));
+    for (const int card : {-1, 0, 23}) EXPECT_TRUE(cardDescriptionPieces(card).empty()) << card;
+}
+
+} // namespace
+} // namespace velmoriax::tarot
