@@ -121,6 +121,7 @@ bool DesktopTray::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::Enter:
     case QEvent::MouseMove:
+    case QEvent::Leave: // a fast pointer leaves without any other move, after a click for instance
         Q_EMIT pointerMoved();
         return false;
     case QEvent::MouseButtonPress:
