@@ -3,6 +3,8 @@
 
 #include "base/run_time_error.h"
 
+#include <QBuffer>
+#include <QImageReader>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -14,6 +16,9 @@ namespace velmoriax::shell {
 
 namespace {
 
+using base::RunTimeError;
+using Code = RunTimeError::Code;
+
 /// The format by the first bytes, so that the readers of other formats are not loaded only to be asked; none for
 /// others.
 const char* formatOf(const std::string& bytes) {
@@ -21,14 +26,18 @@ const char* formatOf(const std::string& bytes) {
     return bytes.starts_with("GIF8") ? "GIF" : nullptr;
 }
 
+std::string pictureBytes(const platform::Files& files, const std::string& path) {
+    auto content = files.read(path);
+    if (content.status != platform::Files::Status::read) throw RunTimeError(Code::fileNotFound, path);
+    return std::move(content.bytes);
+}
+
 } // namespace
 
 QImage loadPicture(const platform::Files& files, const std::string& path) {
-    using Code = base::RunTimeError::Code;
-    const auto content = files.read(path);
-    if (content.status != platform::Files::Status::read) throw base::RunTimeError(Code::fileNotFound, path);
-    const QImage picture = QImage::fromData(QByteArray::fromStdString(content.bytes), formatOf(content.bytes));
-    if (picture.isNull()) throw base::RunTimeError(Code::invalidPicture, path);
+    const std::string bytes = pictureBytes(files, path);
+    const QImage picture = QImage::fromData(QByteArray::fromStdString(bytes), formatOf(bytes));
+    if (picture.isNull()) throw RunTimeError(Code::invalidPicture, path);
     return picture;
 }
 
@@ -41,8 +50,30 @@ PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
     setMinimumSize(24, 24);
 }
 
+const QImage& PictureBox::picture() const {
+    if (!encoded_.isEmpty()) picture_.loadFromData(std::exchange(encoded_, {}));
+    return picture_;
+}
+
 void PictureBox::setPicture(const QImage& picture) {
     picture_ = picture;
+    encoded_.clear();
+    takeSize(picture.size());
+}
+
+void PictureBox::setPictureFile(const platform::Files& files, const std::string& path) {
+    const std::string bytes = pictureBytes(files, path);
+    QByteArray encoded = QByteArray::fromStdString(bytes);
+    QBuffer buffer(&encoded);
+    const QSize size = QImageReader(&buffer, formatOf(bytes)).size();
+    if (!size.isValid()) throw RunTimeError(Code::invalidPicture, path);
+    picture_ = {};
+    encoded_ = encoded;
+    takeSize(size);
+}
+
+void PictureBox::takeSize(QSize size) {
+    pictureSize_ = size;
     scaled_ = {};
     updateGeometry();
     update();
@@ -66,11 +97,11 @@ void PictureBox::setClickable(bool clickable) {
 }
 
 QSize PictureBox::sizeHint() const {
-    return picture_.isNull() ? QSize(64, 64) : picture_.size();
+    return pictureSize_.isEmpty() ? QSize(64, 64) : pictureSize_;
 }
 
 QRect PictureBox::pictureRect() const {
-    const QSize size = picture_.size().scaled(this->size(), Qt::KeepAspectRatio);
+    const QSize size = pictureSize_.scaled(this->size(), Qt::KeepAspectRatio);
     return {QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size};
 }
 
@@ -86,7 +117,7 @@ const QPixmap& PictureBox::scaledPicture() {
     QPainterPath outline;
     outline.addRoundedRect(QRectF(QPointF(), QSizeF(target)), radius, radius);
     painter.setPen(Qt::NoPen);
-    const QImage fitted = picture_.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage fitted = picture().scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     painter.fillPath(outline, QBrush(fitted));
     painter.end();
     scaled_ = QPixmap::fromImage(drawn);
@@ -96,7 +127,7 @@ const QPixmap& PictureBox::scaledPicture() {
 }
 
 void PictureBox::paintEvent(QPaintEvent*) {
-    if (picture_.isNull()) return;
+    if (picture().isNull()) return;
     QPainter painter(this);
     const QRect place = pictureRect();
     painter.drawPixmap(place.topLeft(), scaledPicture());

@@ -3,6 +3,7 @@
 
 #include "platform/files.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QPixmap>
 #include <QWidget>
@@ -24,7 +25,11 @@ public:
     explicit PictureBox(QWidget* parent = nullptr);
 
     void setPicture(const QImage& picture);
-    const QImage& picture() const { return picture_; }
+    const QImage& picture() const;
+
+    /// Takes a picture of the program that is decoded when it is drawn for the first time: a large one takes as long as
+    /// the rest of a window's load. Throws as `loadPicture` does when the file is missing or begins like no picture.
+    void setPictureFile(const platform::Files& files, const std::string& path);
 
     /// The tip of the picture, which is its accessible name as well.
     void setTip(const QString& tip);
@@ -56,9 +61,12 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
 
 private:
+    void takeSize(QSize size);
     const QPixmap& scaledPicture();
 
-    QImage picture_;
+    mutable QImage picture_;
+    mutable QByteArray encoded_; ///< until it is decoded
+    QSize pictureSize_;
     QPixmap scaled_;
     double scaledRatio_ = 0;
     double cornerShare_ = 0;

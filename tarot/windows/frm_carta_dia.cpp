@@ -130,7 +130,7 @@ void FrmCartaDia::showCardOfToday() {
     const DateReading reading =
         sumcartdia(today, desktop().files.applicationDirectory(), record().options.holders.tipocartas, record().cards);
     dayCard_ = reading.card;
-    ui_->ImgCartadia->setPicture(shell::loadPicture(desktop().files, reading.picturePath));
+    ui_->ImgCartadia->setPictureFile(desktop().files, reading.picturePath);
     ui_->ImgCartadia->setTip(text(reading.name));
 }
 
