@@ -11,13 +11,12 @@
 #include "biorhythm/windows/date_steppers.h"
 #include "biorhythm/windows/frm_profiles.h"
 #include "biorhythm/windows/qt_values.h"
+#include "biorhythm/windows/reading_arrows.h"
 #include "shell/windows/look.h"
 #include "shell/windows/notifications.h"
 #include "shell/windows/secondary_window.h"
 #include "shell/windows/window_registry.h"
 #include "ui_frm_bio.h"
-
-#include <QKeyEvent>
 
 #include <algorithm>
 
@@ -31,7 +30,6 @@ namespace velmoriax::biorhythm {
 namespace {
 
 constexpr int halfMinute = 30000;  ///< ms
-constexpr int arrowInterval = 100; ///< ms between two steps while an arrow is held
 constexpr int timeCaptionHead = 6; ///< characters of "Time: "
 
 void setColour(QWidget& label, const QColor& colour) {
@@ -64,6 +62,7 @@ frmBio::frmBio(shell::Process& process) :
     ui_->setupUi(this);
     birthSteppers_ = std::make_unique<DateSteppers>(*ui_->vsbDayBirth, *ui_->vsbMonthBirth, *ui_->vsbYearBirth);
     readingSteppers_ = std::make_unique<DateSteppers>(*ui_->vsbDayBio, *ui_->vsbMonthBio, *ui_->vsbYearBio);
+    arrows_ = new ReadingArrows(*ui_->CmdArrowLeft, *ui_->CmdArrowRight);
     dress();
     buildNavigation();
     connectSteppers();
@@ -136,14 +135,8 @@ void frmBio::connectReading() {
     });
     connect(ui_->CmdGo, &QPushButton::clicked, this, [this] { goToReading(onSteppers(view().target)); });
     connect(ui_->DTPicker1, &QDateEdit::dateChanged, this, &frmBio::takeTarget);
-    for (QToolButton* arrow : {ui_->CmdArrowLeft, ui_->CmdArrowRight}) {
-        connect(arrow, &QToolButton::pressed, this, &frmBio::holdArrow);
-        connect(arrow, &QToolButton::released, this, [this, arrow] { releaseArrow(arrow == ui_->CmdArrowLeft); });
-        arrow->installEventFilter(this);
-    }
-    TimerButton_.setObjectName(QStringLiteral("TimerButton"));
-    TimerButton_.setInterval(arrowInterval);
-    connect(&TimerButton_, &QTimer::timeout, this, &frmBio::repeatArrow);
+    connect(arrows_, &ReadingArrows::held, this, [this] { view().manualDate = true; });
+    connect(arrows_, &ReadingArrows::stepped, this, &frmBio::stepReading);
 }
 
 void frmBio::connectProfiles() {
@@ -296,37 +289,8 @@ void frmBio::stepReading(bool back) {
     goToReading(back ? stepBack(view().reading) : stepOn(view().reading));
 }
 
-void frmBio::holdArrow() {
-    view().manualDate = true;
-    arrowStepped_ = false;
-    TimerButton_.start();
-}
-
-/// A click that is over before the first tick makes its step as well.
-void frmBio::releaseArrow(bool back) {
-    const bool wasHeld = TimerButton_.isActive();
-    TimerButton_.stop();
-    if (wasHeld && !arrowStepped_) stepReading(back);
-}
-
-void frmBio::repeatArrow() {
-    arrowStepped_ = true;
-    stepReading(ui_->CmdArrowLeft->isDown());
-}
-
-bool frmBio::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Left || key == Qt::Key_Right) {
-            stepReading(key == Qt::Key_Left);
-            return true;
-        }
-    }
-    return ModuleWindow::eventFilter(watched, event);
-}
-
 void frmBio::hideEvent(QHideEvent* event) {
-    TimerButton_.stop();
+    arrows_->stop();
     ModuleWindow::hideEvent(event);
 }
 

@@ -17,6 +17,7 @@ class frmBio;
 namespace velmoriax::biorhythm {
 
 class DateSteppers;
+class ReadingArrows;
 
 /// The Biorhythm view: birth, time of birth and date of reading on steppers; the four cycles as numbers, bars and
 /// chart.
@@ -57,7 +58,6 @@ protected:
     void onMinimised(bool toSystray) override;
     void onUnload() override;
     bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
@@ -80,9 +80,6 @@ private:
     void takeTarget();
     void goToReading(base::CivilDate date);
     void stepReading(bool back);
-    void holdArrow();
-    void releaseArrow(bool back);
-    void repeatArrow();
     void pickProfile();
     void saveProfile();
     void editProfiles();
@@ -97,10 +94,9 @@ private:
     std::unique_ptr<Ui::frmBio> ui_;
     std::unique_ptr<DateSteppers> birthSteppers_;
     std::unique_ptr<DateSteppers> readingSteppers_;
+    ReadingArrows* arrows_;
     QTimer TimerBio_{this};
-    QTimer TimerButton_{this};
-    bool arrowStepped_ = false; ///< the arrow that is held has made a step already
-    int shownProfile_ = -1;     ///< the entry of the profile list that was chosen last
+    int shownProfile_ = -1; ///< the entry of the profile list that was chosen last
 };
 
 } // namespace velmoriax::biorhythm

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "biorhythm/windows/reading_arrows.h"
+
+#include <QKeyEvent>
+#include <QToolButton>
+
+namespace velmoriax::biorhythm {
+
+namespace {
+
+constexpr int tickMs = 100;
+
+} // namespace
+
+ReadingArrows::ReadingArrows(QToolButton& left, QToolButton& right) : QObject(left.parentWidget()), left_(left) {
+    for (QToolButton* arrow : {&left, &right}) {
+        connect(arrow, &QToolButton::pressed, this, &ReadingArrows::hold);
+        connect(arrow, &QToolButton::released, this, [this, arrow] { release(arrow == &left_); });
+        arrow->installEventFilter(this);
+    }
+    TimerButton_.setObjectName(QStringLiteral("TimerButton"));
+    TimerButton_.setInterval(tickMs);
+    connect(&TimerButton_, &QTimer::timeout, this, &ReadingArrows::repeat);
+}
+
+void ReadingArrows::stop() {
+    TimerButton_.stop();
+}
+
+void ReadingArrows::hold() {
+    hasStepped_ = false;
+    TimerButton_.start();
+    Q_EMIT held();
+}
+
+void ReadingArrows::release(bool back) {
+    const bool wasHeld = TimerButton_.isActive();
+    stop();
+    if (wasHeld && !hasStepped_) Q_EMIT stepped(back);
+}
+
+void ReadingArrows::repeat() {
+    hasStepped_ = true;
+    Q_EMIT stepped(left_.isDown());
+}
+
+bool ReadingArrows::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Left || key == Qt::Key_Right) {
+            Q_EMIT stepped(key == Qt::Key_Left);
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace velmoriax::biorhythm
