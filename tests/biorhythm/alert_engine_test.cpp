@@ -5,15 +5,17 @@
 #include "biorhythm/cycle_engine.h"
 #include "biorhythm/field_text.h"
 #include "biorhythm/profile_files.h"
-#include "shell/option_values.h"
 #include "support/fakes.h"
 
 #include <cmath>
+#include <regex>
 
 namespace velmoriax::biorhythm {
 namespace {
 
-constexpr std::string_view rule = "\r\n---------------------------------------------\r\n";
+/// Emotional at -9.74 % and falling, and nothing else to tell; a day later nothing at all.
+const base::DateValue critical = base::dateValueOf({2026, 6, 20}, {18, 30, 0});
+const base::DateValue quiet = critical + 1;
 
 /// The half-hours of ten years, counted from 0.
 constexpr int halfHours = 10 * 365 * 48;
@@ -30,23 +32,6 @@ struct AlertEngine : testing::Test {
 
     void run(std::string_view level, base::DateValue now) {
         alertasbio(record, state, level, {now, base::civilDateOf(now)}, {notification, sounds});
-    }
-
-    AlertMessages messagesAt(base::DateValue now) {
-        const base::CivilMoment moment = base::civilMomentOf(now);
-        const float t = livedOf(birthOf(state), moment.date, moment.time).lived;
-        return messagesOf({cyclesAt(t - oneHour), cyclesAt(t), cyclesAt(t + oneHour)});
-    }
-
-    /// The first half-hour at which the three kinds of messages stand or are missing as told.
-    base::DateValue momentWith(bool phase, bool critical, bool crossing) {
-        for (int i = 0; i < halfHours; ++i) {
-            const AlertMessages messages = messagesAt(halfHour(i));
-            if (!joinAlertTexts(messages.phases).empty() == phase && !messages.critical.empty() == critical &&
-                !messages.crossing.empty() == crossing)
-                return halfHour(i);
-        }
-        throw std::runtime_error("no such moment");
     }
 
     /// Whether the value lines of a text, read back, tell the record's cycles.
@@ -76,6 +61,7 @@ TEST(AlertMessages, BeginAPhaseAtATurningPointWithItsTies) {
     EXPECT_EQ(phase(-1, -1, -0.99F), "Your emotional cycle begins an ascending phase!");
     EXPECT_EQ(phase(1, 1, 0.99F), "Your emotional cycle begins a descending phase!");
     EXPECT_EQ(phase(0.98F, 1, 1), "") << "the turn comes with the next hour";
+    EXPECT_EQ(joinAlertTexts({"a", "", "b", ""}), "a\r\nb");
 }
 
 TEST(AlertMessages, NameTheFirstCriticalCycleThatMoves) {
@@ -106,11 +92,17 @@ TEST(AlertMessages, SetThePresentOfACycleAgainstTheOthersNextHour) {
         << "the first of two in the table's order";
 }
 
-TEST_F(AlertEngine, BuildsTheHeadOfEachLevelFromEachCombination) {
-    // P phases, C critical, X crossing, | a line break.
-    const std::array<std::array<bool, 3>, 8> combinations{
-        {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 0}, {1, 0, 1}, {0, 1, 1}, {1, 1, 1}}};
-    const std::map<std::string_view, std::array<std::string_view, 8>> heads{
+TEST(AlertHead, IsBuiltByEachLevelFromEachCombination) {
+    const std::array<AlertMessages, 8> combinations{{{},
+                                                     {{"P"}, "", ""},
+                                                     {{}, "C", ""},
+                                                     {{}, "", "X"},
+                                                     {{"P"}, "C", ""},
+                                                     {{"P"}, "", "X"},
+                                                     {{}, "C", "X"},
+                                                     {{"P"}, "C", "X"}}};
+    const test::Table<const char*, std::array<std::string_view, 8>> heads{
+        // | is a line break
         {"zero", {"", "P", "C", "X", "P|C", "P|X", "C|X", "P|C|X"}},
         {"solo", {"", "", "", "", "", "", "", ""}},
         {"bas1", {"", "P", "", "", "P", "P", "", "P"}},
@@ -121,24 +113,11 @@ TEST_F(AlertEngine, BuildsTheHeadOfEachLevelFromEachCombination) {
         {"med3", {"", "P", "", "X|", "P", "X|P", "X|", "X|P"}},
         {"maxi", {"", "P", "C", "X", "P|C", "P|X", "C|X", "P|C|X"}},
     };
-    record.manualAlert = true;
-    for (std::size_t i = 0; i < combinations.size(); ++i) {
-        const auto [phase, critical, crossing] = combinations[i];
-        const base::DateValue now = momentWith(phase, critical, crossing);
-        const AlertMessages messages = messagesAt(now);
-        const std::map<char, std::string> pieces{{'P', joinAlertTexts(messages.phases)},
-                                                 {'C', std::string(messages.critical)},
-                                                 {'X', std::string(messages.crossing)},
-                                                 {'|', "\r\n"}};
-        for (const auto& level : shell::alertLevels) {
-            std::string expected;
-            for (const char piece : heads.at(level.code)[i]) expected += pieces.at(piece);
-            if (!expected.empty()) expected += rule;
-            run(level.code, now);
-            EXPECT_EQ(notification.texts.back(), expected + valueLines(state)) << level.code << " " << i;
+    for (const auto& [level, texts] : heads)
+        for (std::size_t i = 0; i < combinations.size(); ++i) {
+            const std::string head = alertHead(level, combinations[i], "");
+            EXPECT_EQ(std::regex_replace(head, std::regex("\r\n"), "|"), texts[i]) << level << ' ' << i;
         }
-    }
-    EXPECT_EQ(record.lastAlertKey, "") << "runs by hand leave the key alone";
 }
 
 TEST_F(AlertEngine, TellsEachChangeOfTenYearsOnce) {
@@ -162,8 +141,6 @@ TEST_F(AlertEngine, TellsEachChangeOfTenYearsOnce) {
 }
 
 TEST_F(AlertEngine, OpensAtStartByHandAndOnANewKeyAlone) {
-    const base::DateValue quiet = momentWith(false, false, false);
-    const base::DateValue critical = momentWith(false, true, false);
     run("zero", critical);
     EXPECT_EQ(state.lived, 0) << "on level zero not even the computation is made";
     run("solo", critical);
@@ -183,6 +160,10 @@ TEST_F(AlertEngine, OpensAtStartByHandAndOnANewKeyAlone) {
     notification.open = notification.opens = false;
     run("bas2", critical);
     EXPECT_EQ(notification.texts.size(), 3U);
+    EXPECT_EQ(notification.texts.back(), "Your emotional cycle enter in a critical period and advance toward a passive "
+                                         "phase, better forget of feelings!\r\n"
+                                         "---------------------------------------------\r\n" +
+                                             valueLines(state));
     EXPECT_EQ(sounds.played, std::vector<std::string>(2, "Url.wav")) << "silent when the window does not stand";
 }
 
@@ -192,6 +173,7 @@ TEST_F(AlertEngine, StandsByHandOnTheDateOfTheView) {
     alertByHand(record, state, "zero", {now, {2026, 6, 20}}, outlets);
     EXPECT_NE(notification.texts.back().find("Emotional: -9.74 % (falling)\r\nIntellectual: 44.72 %"),
               std::string::npos);
+    EXPECT_EQ(record.lastAlertKey, "") << "a run by hand leaves the key alone";
     state = {};
     record = {};
     run("maxi", now);
@@ -212,11 +194,10 @@ TEST_F(AlertEngine, TakesTheTipsBirthDateFromTheFileAndItsTimeFromTheRecord) {
     EXPECT_THROW(biotip(files, state, record, 0), base::RunTimeError);
     createMissingProfileFiles(files);
     record.bioTipText = "as before";
-    const base::DateValue now = base::dateValueOf({2026, 6, 20}, {18, 30, 0});
-    biotip(files, state, record, now);
+    biotip(files, state, record, critical);
     EXPECT_EQ(record.bioTipText, "as before");
     files.at("\\bio.dat") = "15,3,1980\r\n";
-    biotip(files, state, record, now);
+    biotip(files, state, record, critical);
     EXPECT_EQ(record.bioTipText, "Biorhythms (avg.): -39.20 % (<)") << "born at 7:45, not at the file's 12:00";
 }
 

@@ -12,6 +12,7 @@
 #include <QBuffer>
 #include <QImage>
 #include <QTest>
+#include <QTimer>
 
 /// The font library keeps its caches to the end of the process and has no one to free them.
 extern "C" [[gnu::weak]] const char* __lsan_default_suppressions() {
@@ -94,6 +95,12 @@ protected:
         return control<shell::PictureBox>(window, name).picture().pixel(at);
     }
     static void press(const QWidget& window, const char* name) { control<QAbstractButton>(window, name).click(); }
+    /// A tick of a timer by its name.
+    static void fire(const QObject& owner, const char* timer) {
+        auto* found = owner.findChild<QTimer*>(QString::fromUtf8(timer));
+        if (!found) throw std::logic_error(std::string("no timer ") + timer);
+        QMetaObject::invokeMethod(found, "timeout");
+    }
 
     QApplication& qt = application();
     FakeClock clock;

@@ -50,11 +50,6 @@ struct DayFixture : test::WindowFixture {
         hub.load();
         return *windows.loadedModule();
     }
-    static void fire(QObject& owner, const char* timer) {
-        auto* found = owner.findChild<QTimer*>(QString::fromUtf8(timer));
-        if (!found) throw std::logic_error(std::string("no timer ") + timer);
-        QMetaObject::invokeMethod(found, "timeout");
-    }
 
     /// Lets the clock go on by seconds, with the ticks that they bring to the hub and to the card of the day.
     void run(base::CivilDate date, base::CivilTime from, int seconds) {
