@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/module_window.h"
 
+#include "shell/windows/focused_button.h"
 #include "shell/windows/picture_box.h"
 #include "shell/windows/secondary_window.h"
 #include "shell/windows/window_registry.h"
@@ -190,6 +191,10 @@ void ModuleWindow::changeEvent(QEvent* event) {
     const bool minimisedNow = event->type() == QEvent::WindowStateChange && isMinimized();
     // The window manager is still at work on the window inside this event.
     if (minimisedNow) QTimer::singleShot(0, this, [this] { minimised(); });
+}
+
+void ModuleWindow::keyPressEvent(QKeyEvent* event) {
+    if (!pressFocusedButton(*this, *event)) QMainWindow::keyPressEvent(event);
 }
 
 void ModuleWindow::minimised() {

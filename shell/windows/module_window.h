@@ -68,6 +68,7 @@ protected:
 
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
     Process& process() const { return process_; }
     ProcessRecord& record() const { return process_.record; }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/secondary_window.h"
 
+#include "shell/windows/focused_button.h"
 #include "shell/windows/window_registry.h"
 
 #include <QCloseEvent>
@@ -33,8 +34,10 @@ void SecondaryWindow::closeEvent(QCloseEvent* event) {
 }
 
 void SecondaryWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Escape) return QWidget::keyPressEvent(event);
-    close();
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else if (!pressFocusedButton(*this, *event))
+        QWidget::keyPressEvent(event);
 }
 
 } // namespace velmoriax::shell

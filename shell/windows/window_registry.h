@@ -55,7 +55,7 @@ public:
     void release(ModuleWindow& window);
     void release(SecondaryWindow& window);
 
-    /// Unloads everything, in the order of loading.
+    /// Unloads everything: the modules, then the windows beside them.
     void unloadAll();
 
 private:

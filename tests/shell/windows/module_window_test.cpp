@@ -4,6 +4,7 @@
 #include "support/window_fixture.h"
 
 #include <QDateTime>
+#include <QPushButton>
 #include <QScreen>
 
 namespace velmoriax::shell {
@@ -90,6 +91,16 @@ TEST_F(ModuleWindowTest, MenuEntriesReachTheirWindow) {
     EXPECT_EQ(story.back(), "frmVelmoriax MnuDelResults");
     windows.loadedModule()->menuAction("Mnucont")->trigger();
     EXPECT_EQ(opener.opened, std::vector<std::string>{"/home/ann/velmoriax/Velmoriax.html"});
+}
+
+TEST_F(ModuleWindowTest, ReturnPressesTheButtonThatHasTheFocus) {
+    QPushButton button(&open(Module::names));
+    int presses = 0;
+    QObject::connect(&button, &QPushButton::clicked, &button, [&] { ++presses; });
+    button.show();
+    button.setFocus();
+    QTest::keyClick(&button, Qt::Key_Return);
+    EXPECT_EQ(presses, 1);
 }
 
 TEST_F(ModuleWindowTest, NoIconIsAddedWhileTheProfileWindowsAreOpen) {
