@@ -28,9 +28,10 @@ FrmProfiles* FormMod::list() const {
 
 void FormMod::load() {
     const std::string line = list() ? list()->selectedRecord() : std::string();
-    if (line.empty()) return;
+    const auto copy = copyWithoutProfile(desktop().files, desktop().boxes, line, modifyMessages);
+    if (!copy) return unload();
+    tempPath_ = *copy;
     if (const frmBio* view = frmBio::loadedIn(process())) view->placeOver(*this);
-    tempPath_ = copyWithoutProfile(desktop().files, desktop().boxes, line, modifyMessages);
     showRecord(line);
 }
 

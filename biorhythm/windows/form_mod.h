@@ -33,7 +33,7 @@ private:
     void submit();
 
     std::unique_ptr<Ui::FormMod> ui_;
-    std::optional<std::string> tempPath_; ///< of the copy without the record
+    std::string tempPath_; ///< of the copy without the record
 };
 
 } // namespace velmoriax::biorhythm

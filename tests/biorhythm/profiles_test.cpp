@@ -88,7 +88,7 @@ TEST_F(ProfileStore, EditsARecordOntoTheEndOfTheList) {
     list() = std::string(annsLine) + "\r\nBea,May/1/1990,12:30\r\n";
     const auto copy = copyWithoutProfile(files, boxes, annsLine, modifyMessages);
     const EditedProfile ann = editedProfile("Ann,March/15/1980,7:05");
-    submitProfile(files, copy, ann.name, *ann.date, ann.time);
+    submitProfile(files, copy.value(), ann.name, *ann.date, ann.time);
     EXPECT_EQ(list(), "Bea,May/1/1990,12:30\r\nAnn,March/15/1980,7:5\r\n");
     EXPECT_EQ(editedProfile("Bea,May/1/1990,12:30").time.minute, 30);
     EXPECT_EQ(editedProfile(annsLine).time.minute, 45);

@@ -84,7 +84,7 @@ void profileRewrite(std::string_view input) {
     std::erase_if(name, [](char c) { return c == ',' || c == '\r' || c == '\n'; });
     files.at("\\perfiles.txt") = input;
     auto lines = biorhythm::profileLines(files);
-    biorhythm::submitProfile(files, std::nullopt, name, {1980, 3, 15}, {7, 5, 0});
+    biorhythm::appendProfile(files, name, {1980, 3, 15}, "7:5");
     lines.push_back(base::fromWestern(base::toWestern(name)) + ",March/15/1980,7:5");
     law(biorhythm::profileLines(files) == lines, "a record is a line of its own at the end");
     law(biorhythm::findProfile(files, name) == base::CivilMoment{{1980, 3, 15}, {7, 5, 0}}, "and is found");

@@ -171,7 +171,7 @@ void editProfile(DiskFiles& files, int turn) {
     test::FakeBoxes boxes;
     const std::string last = biorhythm::profileLines(files).back();
     const auto copy = biorhythm::copyWithoutProfile(files, boxes, last, biorhythm::modifyMessages);
-    biorhythm::submitProfile(files, copy, "Ann", {1980, 3, 15}, {7, turn % 2, 0});
+    biorhythm::submitProfile(files, copy.value(), "Ann", {1980, 3, 15}, {7, turn % 2, 0});
 }
 
 struct Writer {

@@ -4,6 +4,7 @@
 #include "biorhythm/windows/picture_to_jpeg.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QTabBar>
 
 namespace velmoriax::biorhythm {
@@ -39,9 +40,12 @@ struct WithProfiles : BioWindows {
 
 struct Profiles : WithProfiles {
     QWidget& list = beside("XPButtonEdit", "FrmProfiles");
-    QWidget& edit(int row) {
+    void askToEdit(int row) {
         choose(list, row);
         press(list, "CmdMod");
+    }
+    QWidget& edit(int row) {
+        askToEdit(row);
         return *windows.loaded("FormMod");
     }
 };
@@ -108,13 +112,13 @@ TEST_F(Profiles, CancelLeavesTheListAndACopyBehind) {
 TEST_F(Profiles, TellsWhatFailedAndLeavesTheList) {
     const std::string before = lines();
     files.temporaryNameFails = true;
-    edit(1).close();
-    choose(list, 1);
+    askToEdit(1);
     press(list, "CmdBorrar");
     files.temporaryFolderMissing = true;
     choose(list, 1);
     press(list, "CmdBorrar");
-    edit(1).close();
+    askToEdit(1);
+    EXPECT_EQ(windows.loaded("FormMod"), nullptr) << "without a copy there is nothing to edit";
     const std::vector<std::string> told{"Error searching the name of file.", "Error getting temporary file name.",
                                         "Error getting temporary file path.", "Error searching the path of file."};
     EXPECT_TRUE(std::ranges::equal(told, boxes.shown, {}, {}, &test::FakeBoxes::Shown::text));
@@ -130,6 +134,8 @@ TEST_F(CompatibilityWindow, ComparesAndDrawsTheSecondProfile) {
     choose(window, 1);
     EXPECT_EQ(textOf(window, "LabelInfo"), "Complementarity between Ann and Bob for the day "
                                            "June/20/2026 18:30:00 (0-100 %):");
+    for (const char* label : {"LabelProMain", "LabelInfo"})
+        EXPECT_EQ(control<QLabel>(window, label).textFormat(), Qt::PlainText) << "a name may look like markup";
     EXPECT_EQ(option("Nombre secundario"), "Bob");
     tabs.setCurrentIndex(1);
     EXPECT_EQ(textOf(window, "LabelInfo"), "Affinity between Ann and Bob forever (0-100 %):");
