@@ -26,21 +26,29 @@ void setBirthOnSteppers(BioViewState& view, const base::CivilMoment& birth) {
     view.birth = {date, birth.time};
 }
 
+/// Steppers that move count as moved by hand, whoever moved them: a date that they were returned to stays there past
+/// midnight, until the next half-hour, the button or a change of the birth returns them again.
+void returnToToday(BioViewState& view, base::CivilDate today) {
+    const base::CivilDate reading = onSteppers(today);
+    view.manualDate = reading != view.reading;
+    view.reading = reading;
+}
+
 } // namespace
 
 void loadBioView(const platform::Files& files, BioState& state, BioViewState& view, base::CivilDate today) {
-    view.manualDate = false;
     loadFinalDate(files, state, today);
     loadBirth(files, state);
     loadBirthTime(files, state);
     view.target = finalDateOf(state);
     setBirthOnSteppers(view, birthOf(state));
     view.reading = onSteppers(today);
+    view.manualDate = true;
 }
 
 BioShown calcBio(BioState& state, BioViewState& view, base::DateValue now) {
     const base::CivilMoment present = base::civilMomentOf(now);
-    if (!view.manualDate) view.reading = onSteppers(present.date);
+    if (!view.manualDate) returnToToday(view, present.date);
     computeLived(state, view.birth, view.reading, present.time);
     computeCycles(state);
     computeAverage(state);

@@ -43,8 +43,9 @@ struct BioShown {
 /// Reads the three files into the record and the view's steppers, the reading on today.
 void loadBioView(const platform::Files& files, BioState& state, BioViewState& view, base::CivilDate today);
 
-/// The one calculation of the view: returns the reading to today unless `manualDate`, computes into the record (the
-/// birth of `view`, which the record takes over only when it is saved) and gives what is shown.
+/// The one calculation of the view: returns the reading to today unless `manualDate` (which is up when that moved it),
+/// computes into the record (the birth of `view`, which the record takes over only when it is saved) and gives what is
+/// shown.
 BioShown calcBio(BioState& state, BioViewState& view, base::DateValue now);
 
 /// A half-minute's tick; true each half hour, when the view is to return to today and calculate.

@@ -57,7 +57,8 @@ TEST(BioView, ReturnsToTodayEachHalfHour) {
     for (int tick = 1; tick < 60; ++tick) ASSERT_FALSE(halfHourIsOver(view)) << tick;
     EXPECT_TRUE(halfHourIsOver(view));
     calcBio(state, view, evening);
-    EXPECT_EQ(view.reading, (base::CivilDate{2026, 6, 20}));
+    calcBio(state, view, evening + 1);
+    EXPECT_EQ(view.reading, (base::CivilDate{2026, 6, 20})) << "it stays there past midnight until the next return";
 }
 
 TEST(BioView, PicksAPersonOfTheListForGood) {
