@@ -17,6 +17,12 @@ QString text(const std::string& utf8) {
     return QString::fromStdString(utf8);
 }
 
+/// A line end at the end would open an empty line in the pane.
+QString withoutLastLineEnd(QString text) {
+    while (text.endsWith(u'\n') || text.endsWith(u'\r')) text.chop(1);
+    return text;
+}
+
 } // namespace
 
 void showSign(const sky::SignReading& sign, const platform::Files& files, const SignControls& controls) {
@@ -41,7 +47,7 @@ SignPane::SignPane(QWidget* parent) : QLabel(parent) {
 }
 
 void SignPane::showIn(const QRect& place, const QString& text) {
-    setText(text.trimmed());
+    setText(withoutLastLineEnd(text));
     const QSize room(std::min(place.width(), fontMetrics().averageCharWidth() * lettersOfLine), place.height());
     fitFont(room);
     const int height = heightForWidth(room.width());
