@@ -28,12 +28,11 @@ EditedProfile editedProfile(std::string_view line) {
     return {fields.name, profileDate(fields.dateText), {onStepper(hour, 23), onStepper(minute, 59), 0}};
 }
 
-void submitProfile(platform::Files& files, const std::string& copyPath, std::string_view name,
-                   base::CivilDate date, base::CivilTime time) {
+void submitProfile(platform::Files& files, const std::string& copyPath, std::string_view name, base::CivilDate date,
+                   base::CivilTime time) {
     const std::string timeText = std::to_string(time.hour) + ":" + std::to_string(time.minute);
     // The record joins the copy before that takes the list's place: at no moment does it stand in neither.
-    const bool replaced =
-        appendToCopy(files, copyPath, name, date, timeText) && replaceProfiles(files, copyPath);
+    const bool replaced = appendToCopy(files, copyPath, name, date, timeText) && replaceProfiles(files, copyPath);
     if (!replaced) appendProfile(files, name, date, timeText);
 }
 

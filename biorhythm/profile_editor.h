@@ -24,7 +24,7 @@ EditedProfile editedProfile(std::string_view line);
 /// "Submit": the copy without the old record takes the list's place, the record goes to its end. The minute is written
 /// as a plain number, "7:5". When the copy cannot take the list's place, the record goes to the end of the list as it
 /// stands: the old one may then stay, but no one is lost.
-void submitProfile(platform::Files& files, const std::string& copyPath, std::string_view name,
-                   base::CivilDate date, base::CivilTime time);
+void submitProfile(platform::Files& files, const std::string& copyPath, std::string_view name, base::CivilDate date,
+                   base::CivilTime time);
 
 } // namespace velmoriax::biorhythm
