@@ -3,7 +3,6 @@
 
 #include "biorhythm/profile_editor.h"
 #include "biorhythm/profile_store.h"
-#include "biorhythm/windows/frm_bio.h"
 #include "biorhythm/windows/frm_profiles.h"
 #include "biorhythm/windows/qt_values.h"
 #include "shell/windows/window_registry.h"
@@ -31,7 +30,7 @@ void FormMod::load() {
     const auto copy = copyWithoutProfile(desktop().files, desktop().boxes, line, modifyMessages);
     if (!copy) return unload();
     tempPath_ = *copy;
-    if (const frmBio* view = frmBio::loadedIn(process())) view->placeOver(*this);
+    standOverModule();
     showRecord(line);
 }
 

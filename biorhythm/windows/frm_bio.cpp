@@ -236,10 +236,6 @@ void frmBio::fillProfiles(const std::vector<std::string>& names, std::optional<s
     ui_->ComboProfiles->setVisible(!names.empty());
 }
 
-void frmBio::placeOver(QWidget& window) const {
-    window.move(frameGeometry().center() - window.rect().center());
-}
-
 void frmBio::showSecondName(const QString& name) {
     ui_->TextSecondProf->setText(name);
     ui_->TextSecondProf->setCursorPosition(0);

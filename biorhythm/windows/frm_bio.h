@@ -46,9 +46,6 @@ public:
     /// Fills the profile list anew after the file was edited. The person shown stays.
     void listProfilesAnew();
 
-    /// Puts a window that is not shown yet over the middle of this one.
-    void placeOver(QWidget& window) const;
-
     void showSecondName(const QString& name);
     void hideSecondName();
 

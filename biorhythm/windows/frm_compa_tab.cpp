@@ -32,7 +32,7 @@ frmBio& FrmCompaTab::view() const {
 
 void FrmCompaTab::load() {
     record().shell.noTrayAdd = true;
-    view().placeOver(*this);
+    standOverModule();
     ui_->LabelProMain->setText(QStringLiteral("Main profile: ") + view().mainName());
     {
         const QSignalBlocker quiet(ui_->ListProfiles);

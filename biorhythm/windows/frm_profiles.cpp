@@ -21,7 +21,7 @@ FrmProfiles::~FrmProfiles() = default;
 
 void FrmProfiles::load() {
     record().shell.noTrayAdd = true;
-    if (const frmBio* view = frmBio::loadedIn(process())) view->placeOver(*this);
+    standOverModule();
     ListaPerfiles();
 }
 

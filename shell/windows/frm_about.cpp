@@ -29,6 +29,7 @@ void frmAbout::load() {
     ui_->LblTitle->setText(QString::fromStdString(text_.title));
     ui_->lblVersion->setText(QString::fromStdString(text_.version));
     ui_->lblDescription->setText(QString::fromStdString(text_.description));
+    standOverModule();
 }
 
 void frmAbout::connectWays() {

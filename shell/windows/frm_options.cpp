@@ -44,6 +44,7 @@ FrmOptions::~FrmOptions() = default;
 void FrmOptions::load() {
     dialog_.LeerIni(record().options.fileName(), optionsSection, {});
     showState();
+    standOverModule();
 }
 
 void FrmOptions::connectOptions() {

@@ -2,10 +2,14 @@
 #include "shell/windows/secondary_window.h"
 
 #include "shell/windows/focused_button.h"
+#include "shell/windows/module_window.h"
+#include "shell/windows/window_place.h"
 #include "shell/windows/window_registry.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QScreen>
 
 namespace velmoriax::shell {
 
@@ -26,6 +30,12 @@ void SecondaryWindow::showNormalState() {
     show();
     raise();
     activateWindow();
+}
+
+void SecondaryWindow::standOverModule() {
+    const ModuleWindow* module = process_.windows.loadedModule();
+    const bool inSight = module && module->isVisible() && !module->isMinimized();
+    standOver(*this, inSight ? module->frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry());
 }
 
 void SecondaryWindow::closeEvent(QCloseEvent* event) {

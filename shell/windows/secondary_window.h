@@ -28,6 +28,9 @@ public:
     void showNormalState();
 
 protected:
+    /// Puts the window, before it is shown, over the middle of the module; of the screen while that is out of sight.
+    void standOverModule();
+
     /// What the window leaves behind, however it was closed.
     virtual void onUnload() {}
 

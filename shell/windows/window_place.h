@@ -18,4 +18,7 @@ void moveToPlace(QWidget& window, const WindowPlace& place);
 /// The rectangle moved so that all of it lies on the screen nearest to its corner, as far as it fits.
 QRect onScreen(QRect window);
 
+/// Puts a window that is not shown yet over the middle of a place, as far as it fits there on the screen.
+void standOver(QWidget& window, const QRect& place);
+
 } // namespace velmoriax::shell
