@@ -3,6 +3,7 @@
 
 #include "base/date_text.h"
 #include "base/number_text.h"
+#include "tarot/drawn_card.h"
 
 namespace velmoriax::shell {
 
@@ -55,7 +56,7 @@ bool timerBioTick(AgentRecord& agent) {
 void tipcartadia(AgentRecord& agent, base::CivilDate today, std::string_view applicationDirectory,
                  std::string_view tipocartas, tarot::CardState& cards) {
     if (agent.cardDate == today) return;
-    agent.cardName = tarot::sumcartdia(base::shortDateText(today), applicationDirectory, tipocartas, cards).name;
+    agent.cardName = tarot::sumcartdia(base::shortDateText(today), applicationDirectory, tipocartas, cards).tip;
     agent.cardDate = today;
     agent.tipCard = "Card of Day: " + agent.cardName;
 }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tarot/card_catalogue.h"
 
-#include "base/number_text.h"
-#include "base/rounding.h"
 #include "base/run_time_error.h"
 #include "platform/program_paths.h"
 
@@ -139,18 +137,6 @@ int reducedToMajor(int card) {
 
 int reducedToMinor(int card) {
     return reducedBy(card, suitCards);
-}
-
-DateReading sumcartdia(std::string_view Fecha, std::string_view applicationDirectory, std::string_view tipocartas,
-                       CardState& state) {
-    DateReading reading;
-    reading.digitSum = base::toInt16(base::digitSum(Fecha));
-    reading.card = base::toInt16(reducedToMajor(reading.digitSum));
-    state.currentCard = reading.card;
-    reading.picturePath = majorPictureDir(applicationDirectory, tipocartas) + majorPictureFile(reading.card);
-    fillCardTipName(state);
-    reading.name = state.cardTipNames[static_cast<std::size_t>(reading.card - 1)];
-    return reading;
 }
 
 } // namespace velmoriax::tarot

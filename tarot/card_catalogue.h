@@ -75,18 +75,4 @@ int reducedToMajor(int card);
 /// The same by 14, for the minor cards.
 int reducedToMinor(int card);
 
-/// A date's reading. The card is left in `currentCard` and its name is filled.
-struct DateReading {
-    std::int16_t digitSum = 0; ///< unreduced
-    std::int16_t card = 0;     ///< 1 to 22
-    std::string picturePath;
-    std::string name; ///< the `cardTipNames` entry
-};
-
-/// The reduction of a date: the sum of the digits of its text, reduced to a major card. Deterministic: the order of the
-/// fields, separators and leading zeros do not count.
-/// Throws RunTimeError Subscript out of range for a text without a digit above 0.
-DateReading sumcartdia(std::string_view Fecha, std::string_view applicationDirectory, std::string_view tipocartas,
-                       CardState& state);
-
 } // namespace velmoriax::tarot

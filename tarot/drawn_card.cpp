@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tarot/drawn_card.h"
 
+#include "base/number_text.h"
 #include "base/rounding.h"
 
 namespace velmoriax::tarot {
@@ -14,6 +15,11 @@ DrawnCard drawnMajor(int total, std::string_view applicationDirectory, std::stri
     fillCardTipName(state);
     drawn.tip = state.cardTipNames[static_cast<std::size_t>(drawn.card - 1)];
     return drawn;
+}
+
+DrawnCard sumcartdia(std::string_view Fecha, std::string_view applicationDirectory, std::string_view tipocartas,
+                     CardState& state) {
+    return drawnMajor(base::digitSum(Fecha), applicationDirectory, tipocartas, state);
 }
 
 DrawnCard drawnMinor(int total, Suit suit, std::string_view applicationDirectory) {

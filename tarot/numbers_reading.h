@@ -16,8 +16,7 @@ std::string resultLineOf(const MajorCard& card);
 struct NumbersReading {
     std::int16_t digitSum = 0; ///< unreduced
     DrawnCard drawn;
-    std::string
-        resultLine; ///< "It has corresponded... " and the card by its `numbersName`, which the tip may not share
+    std::string resultLine; ///< see `resultLineOf`
     NumbersRecord record;
 };
 

@@ -85,11 +85,10 @@ void FrmCalendar::pick(QDate day) {
 }
 
 void FrmCalendar::sumcartdia(base::CivilDate date) {
-    const DateReading reading = tarot::sumcartdia(base::shortDateText(date), desktop().files.applicationDirectory(),
-                                                  record().options.holders.tipocartas, record().cards);
-    dateCard_ = reading.card;
-    ui_->Imgfechasel->setPicture(shell::loadPicture(desktop().files, reading.picturePath));
-    ui_->Imgfechasel->setTip(text(reading.name));
+    const DrawnCard drawn = tarot::sumcartdia(base::shortDateText(date), desktop().files.applicationDirectory(),
+                                              record().options.holders.tipocartas, record().cards);
+    dateCard_ = drawn.card;
+    showCard(*ui_->Imgfechasel, drawn, desktop().files);
 }
 
 void FrmCalendar::showSignOf(base::CivilDate date) {

@@ -16,6 +16,7 @@
 #include "sky/time_zone_shift.h"
 #include "sky/windows/frm_moon_phase.h"
 #include "sky/zodiac.h"
+#include "tarot/drawn_card.h"
 #include "tarot/windows/card_description.h"
 #include "tarot/windows/hover_watch.h"
 #include "tarot/windows/sign_display.h"
@@ -127,11 +128,11 @@ void FrmCartaDia::showDate() {
 
 void FrmCartaDia::showCardOfToday() {
     const std::string today = base::shortDateText(base::civilDateOf(desktop().clock.now()));
-    const DateReading reading =
+    const DrawnCard drawn =
         sumcartdia(today, desktop().files.applicationDirectory(), record().options.holders.tipocartas, record().cards);
-    dayCard_ = reading.card;
-    ui_->ImgCartadia->setPictureFile(desktop().files, reading.picturePath);
-    ui_->ImgCartadia->setTip(text(reading.name));
+    dayCard_ = drawn.card;
+    ui_->ImgCartadia->setPictureFile(desktop().files, drawn.picturePath);
+    ui_->ImgCartadia->setTip(text(drawn.tip));
 }
 
 void FrmCartaDia::showSignOfNow() {
