@@ -177,33 +177,6 @@ TEST(Manifest, SignTablesMeetPublishedInstants) {
     }
 }
 
-/// A little-endian number of a wave file.
-int numberAt(const std::string& wave, std::size_t at, int size) {
-    unsigned value = 0;
-    while (size-- > 0) value = value << 8 | static_cast<unsigned char>(wave[at + static_cast<std::size_t>(size)]);
-    return static_cast<int>(value);
-}
-
-TEST(Manifest, SoundsAreShortAndEndInSilence) {
-    for (const auto& [name, longest] :
-         test::Table<const char*, double>{{"boop.wav", 0.3}, {"Trumpet.wav", 3.0}, {"Url.wav", 1.0}}) {
-        const std::string wave = bytesOf(data / name);
-        const int channels = numberAt(wave, 22, 2);
-        EXPECT_EQ(numberAt(wave, 24, 4), 44100) << name;
-        EXPECT_EQ(numberAt(wave, 34, 2), 16) << name;
-        std::vector<int> samples;
-        for (std::size_t at = wave.find("data") + 8; at + 1 < wave.size(); at += 2)
-            samples.push_back(static_cast<std::int16_t>(numberAt(wave, at, 2)));
-        ASSERT_FALSE(samples.empty()) << name;
-        EXPECT_LE(static_cast<double>(samples.size()) / 44100 / channels, longest) << name;
-        const int peak = std::abs(*std::ranges::max_element(samples, {}, [](int sample) { return std::abs(sample); }));
-        EXPECT_NEAR(20 * std::log10(peak / 32768.0), -6.0, 1.0) << name;
-        EXPECT_LT(std::abs(samples.front()), 100) << name;
-        EXPECT_LT(std::abs(samples.back()), 100) << name;
-    }
-    EXPECT_TRUE(bytesOf(data / "Are You Lonesome Tonight.mid").starts_with("MThd"));
-}
-
 TEST(Manifest, TheProfileFilesBeginWithNothingSet) {
     EXPECT_EQ(bytesOf(data / "bio.dat"), "1,1,1900\r\n");
     EXPECT_EQ(bytesOf(data / "horabio.dat"), "12,0\r\n");
