@@ -27,7 +27,6 @@ TEST(NumberText, FixedDecimalsRoundTheExactExpansionAwayFromZero) {
         {1.005, 2, "1.00", "below the half in binary, though it prints as 1.005"},
         {2.5, 0, "3", "no even neighbour here"},
         {-0.004, 2, "0.00", "never a negative zero"},
-        {-97.531, 2, "-97.53", "a percentage"},
         {0.5, 7, "0.5000000", "padding"},
         {1e15, 2, "1000000000000000.00", "large"},
         {4503599627370497.5, 0, "4503599627370498", "the largest halves"},
@@ -35,14 +34,12 @@ TEST(NumberText, FixedDecimalsRoundTheExactExpansionAwayFromZero) {
     for (const auto& [value, decimals, text, why] : rows) EXPECT_EQ(formatFixed(value, decimals), text) << why;
 }
 
-TEST(NumberText, EmptyForWhatRoundsToZeroAndPlainNumbersReadBack) {
+TEST(NumberText, EmptyForWhatRoundsToZeroAndPlainWithoutAnExponent) {
     for (const auto& [value, text] :
          test::Table<double, const char*>{{0.4999, ""}, {-0.4, ""}, {0.5, "1"}, {99.5, "100"}})
         EXPECT_EQ(formatWholeOrEmpty(value), text);
-    for (const float value : {0.0F, 75.3F, 0.1F, -4.35F, 100.0F, 49.995F, 1234567.0F, 480000.0F})
-        EXPECT_EQ(std::stof(plainNumberText(value)), value);
-    EXPECT_EQ(plainNumberText(75.3F), "75.3");
-    EXPECT_EQ(plainNumberText(480000.0F), "480000");
+    EXPECT_EQ(plainNumberText(75.3F), "75.3") << "the fewest digits that read back";
+    EXPECT_EQ(plainNumberText(1e6F), "1000000");
 }
 
 TEST(NumberText, LeadingNumberTakesWhatStandsInFront) {
@@ -59,16 +56,13 @@ TEST(DateText, FormsAreFixed) {
     EXPECT_EQ(timeText(CivilTime{0, 0, 1}), "0:00:01");
     EXPECT_EQ(timeText(-0.25), "6:00:00");
     EXPECT_EQ(generalText(46341.5), "11/15/2026 12:00:00");
-    EXPECT_EQ(longDateText({2026, 11, 15}), "Sunday, November 15, 2026");
     EXPECT_EQ(longDateTextWithoutComma({2026, 11, 15}), "Sunday, November 15 2026");
     EXPECT_EQ(weekdayRuler(5), "Jupiter");
     for (const int outside : {0, 13}) EXPECT_EQ(monthNameEnglish(outside), "");
     EXPECT_EQ(monthOfEnglishName("march"), std::nullopt) << "month names are matched exactly";
 }
 
-TEST(DateText, ReadsWhatItWritesAndNothingElse) {
-    for (const DateValue value : {46341.5, 38518.0, 2.25, 36531.7597222222})
-        EXPECT_NEAR(readDateTime(generalText(value)).value(), value, 0.5 / 86400);
+TEST(DateText, ReadsMomentsAndNothingElse) {
     EXPECT_EQ(readDateTime(" 3/20/2005  12:33:00 "), dateValueOf({2005, 3, 20}, {12, 33, 0}));
     EXPECT_EQ(readDateTime("7:45"), dateValueOf(CivilTime{7, 45, 0}));
     for (const char* bad : {"", "3/20", "13/1/2005", "2/29/2001", "3/20/2005 24:00:00", "3/20/2005 x", "a/b/c",

@@ -12,14 +12,14 @@
 namespace {
 
 using velmoriax::fuzz::Target;
+using velmoriax::fuzz::targets;
 
 const Target& chosenTarget() {
     const char* name = std::getenv("VELMORIAX_FUZZ_TARGET");
-    const auto all = velmoriax::fuzz::targets();
-    const auto found = std::ranges::find(all, std::string_view(name ? name : ""), &Target::name);
-    if (found != all.end()) return *found;
+    const auto found = std::ranges::find(targets, std::string_view(name ? name : ""), &Target::name);
+    if (found != targets.end()) return *found;
     std::cerr << "VELMORIAX_FUZZ_TARGET names one of:";
-    for (const Target& target : all) std::cerr << ' ' << target.name;
+    for (const Target& target : targets) std::cerr << ' ' << target.name;
     std::cerr << '\n';
     std::exit(EXIT_FAILURE);
 }

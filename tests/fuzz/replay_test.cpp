@@ -1,20 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/targets.h"
-
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
-#include <sstream>
+#include "support/helpers.h"
 
 namespace velmoriax::fuzz {
 namespace {
-
-std::string bytesOf(const std::filesystem::path& path) {
-    std::ostringstream all;
-    all << std::ifstream(path, std::ios::binary).rdbuf();
-    return all.str();
-}
 
 class Corpus : public testing::TestWithParam<Target> {};
 
@@ -23,14 +12,14 @@ TEST_P(Corpus, KeepsTheLaws) {
     int inputs = 0;
     const std::filesystem::path folder = std::filesystem::path(VELMORIAX_CORPUS_DIR) / GetParam().name;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        EXPECT_NO_THROW(GetParam().run(bytesOf(entry.path()))) << entry.path();
+        EXPECT_NO_THROW(GetParam().run(test::bytesOf(entry.path()))) << entry.path();
         ++inputs;
     }
     EXPECT_GT(inputs, 0) << folder;
     EXPECT_NO_THROW(GetParam().run({})) << "nothing at all";
 }
 
-INSTANTIATE_TEST_SUITE_P(Readers, Corpus, testing::ValuesIn(targets().begin(), targets().end()),
+INSTANTIATE_TEST_SUITE_P(Readers, Corpus, testing::ValuesIn(targets),
                          [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace

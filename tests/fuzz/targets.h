@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <span>
+#include <algorithm>
+#include <array>
 #include <stdexcept>
 #include <string_view>
 
@@ -9,14 +10,6 @@
 /// holds the result against laws that every input has to keep. The fuzzer makes the inputs up; the kept ones of
 /// tests/corpus/ run in every test.
 namespace velmoriax::fuzz {
-
-struct Target {
-    std::string_view name; ///< and of its folder in tests/corpus/
-    void (*run)(std::string_view input);
-};
-
-/// All targets.
-std::span<const Target> targets();
 
 /// An input showed that a law does not hold.
 struct LawBroken : std::logic_error {
@@ -28,7 +21,12 @@ inline void law(bool holds, const char* what) {
 }
 
 /// Takes the part before the next "|" off an input that consists of several; all of it when there is none.
-std::string_view takePart(std::string_view& input);
+inline std::string_view takePart(std::string_view& input) {
+    const std::size_t end = std::min(input.find('|'), input.size());
+    const std::string_view part = input.substr(0, end);
+    input.remove_prefix(std::min(end + 1, input.size()));
+    return part;
+}
 
 // base/
 void dates(std::string_view input);
@@ -47,5 +45,23 @@ void profileRewrite(std::string_view input);
 
 // sky/
 void ingress(std::string_view input);
+
+struct Target {
+    std::string_view name; ///< and of its folder in tests/corpus/
+    void (*run)(std::string_view input);
+};
+
+inline constexpr std::array<Target, 10> targets{{
+    {"dates", dates},
+    {"numbers", numbers},
+    {"western", western},
+    {"profile_text", profileText},
+    {"options", options},
+    {"position", position},
+    {"dat_files", datFiles},
+    {"profile_list", profileList},
+    {"profile_rewrite", profileRewrite},
+    {"ingress", ingress},
+}};
 
 } // namespace velmoriax::fuzz

@@ -138,9 +138,7 @@ TEST_F(HardDisk, FiftyMegabytesOfNoiseAreReadWrittenAndKept) {
         EXPECT_TRUE(bytesAt(literal).starts_with(noise)) << literal;
 }
 
-namespace fs = std::filesystem;
-
-constexpr int kills = 200;
+constexpr int kills = 200; ///< of each writer
 
 /// Some pages of the disk, so that a write takes a while.
 std::string manyLines(const std::string& line) {
@@ -174,19 +172,18 @@ void editProfile(DiskFiles& files, int turn) {
     biorhythm::submitProfile(files, copy.value(), "Ann", {1980, 3, 15}, {7, turn % 2, 0});
 }
 
-struct Writer {
-    const char* name;
-    void (*write)(DiskFiles& files, int turn);
-};
+using Write = void (*)(DiskFiles& files, int turn);
 
-class KilledWrites : public test::DiskFixture, public testing::WithParamInterface<Writer> {
-protected:
-    KilledWrites() {
-        fs::create_directory(root_ / "tmp");
+struct KilledWrites : test::DiskFixture {
+    KilledWrites() { fs::create_directory(root_ / "tmp"); }
+
+    /// Lays the files of a writer and learns what an undisturbed run leaves of them.
+    void prepare(Write write) {
+        whole_.clear();
         files_.replace(at("\\opciones.ini"), "[opciones]\r\nTirada=real\r\n" + manyLines("; a remark"));
         files_.replace(at("\\perfiles.txt"), manyLines("Bea,May/1/1990,8:00") + "Ann,March/15/1980,7:45\r\n");
         for (int turn = 0; turn < 4; ++turn) {
-            GetParam().write(files_, turn);
+            write(files_, turn);
             for (const fs::path& path : filesThatAre(whole)) whole_[path].insert(test::bytesOf(path));
         }
     }
@@ -208,11 +205,11 @@ protected:
     }
 
     /// Lets a process write as fast as it can, and kills it after some time.
-    void killWhileWriting(int microseconds) {
+    void killWhileWriting(Write write, int microseconds) {
         const ::pid_t writer = ::fork();
         ASSERT_GT(writer, -1) << "no process to kill";
         if (writer == 0) {
-            for (int turn = 0;; ++turn) GetParam().write(files_, turn);
+            for (int turn = 0;; ++turn) write(files_, turn);
         }
         ::usleep(static_cast<::useconds_t>(microseconds));
         ::kill(writer, SIGKILL);
@@ -225,15 +222,18 @@ protected:
     std::map<fs::path, std::set<std::string>> whole_; ///< what an undisturbed run leaves
 };
 
-TEST_P(KilledWrites, LeaveEveryFileWholeAndTheNextStartSweepsTheRest) {
+TEST_F(KilledWrites, LeaveEveryFileWholeAndTheNextStartSweepsTheRest) {
     std::mt19937 random(15);
     std::uniform_int_distribution<int> microseconds(100, 15'000);
-    for (int kill = 0; kill < kills; ++kill) {
-        ASSERT_NO_FATAL_FAILURE(killWhileWriting(microseconds(random)));
-        ASSERT_NO_FATAL_FAILURE(expectWholeFiles(kill));
+    for (const Write write : {writeOptions, writeDatFiles, deleteAndSaveProfile, editProfile}) {
+        prepare(write);
+        for (int kill = 0; kill < kills; ++kill) {
+            ASSERT_NO_FATAL_FAILURE(killWhileWriting(write, microseconds(random)));
+            ASSERT_NO_FATAL_FAILURE(expectWholeFiles(kill));
+        }
     }
     const auto left = filesThatAre(onTheirWay);
-    std::cout << kills << " kills left " << left.size() << " half-written files\n";
+    std::cout << "the kills left " << left.size() << " half-written files\n";
     files_.createFolders();
     EXPECT_EQ(filesThatAre(onTheirWay), left) << "what is fresh may be another instance's";
     for (const fs::path& path : left)
@@ -242,12 +242,6 @@ TEST_P(KilledWrites, LeaveEveryFileWholeAndTheNextStartSweepsTheRest) {
     EXPECT_TRUE(filesThatAre(onTheirWay).empty());
     expectWholeFiles(kills);
 }
-
-INSTANTIATE_TEST_SUITE_P(Of, KilledWrites,
-                         testing::Values(Writer{"options", writeOptions}, Writer{"dat_files", writeDatFiles},
-                                         Writer{"deleted_profile", deleteAndSaveProfile},
-                                         Writer{"edited_profile", editProfile}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace
 } // namespace velmoriax::desktop

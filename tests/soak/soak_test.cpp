@@ -16,9 +16,6 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <malloc.h>
 #include <random>
 
@@ -49,8 +46,7 @@ struct Soak : test::WindowFixture {
             if (!entry.is_regular_file()) continue;
             std::string name = "\\" + entry.path().lexically_relative(data).string();
             std::ranges::replace(name, '/', '\\');
-            std::ifstream file(entry.path(), std::ios::binary);
-            files.at(name).assign(std::istreambuf_iterator<char>(file), {});
+            files.at(name) = test::bytesOf(entry.path());
         }
         files.at("\\bio.dat") = "15,3,1980\r\n";
         files.at("\\perfiles.txt") = "Ann,March/15/1980,7:45\r\nBob,January/1/1980,12:30\r\n";

@@ -85,7 +85,6 @@ TEST_F(Oracle, AddsWordSumsAndDateToTheFinalCard) {
     const test::Table<std::array<int, 4>, std::string, const char*> rows{
         // batons, cups, swords, golds; the date adds 18
         {{43, 0, 20, 0}, "diablo15.jpg", "81 less 66"},
-        {{1, 1, 1, 1}, "mundo22.jpg", "a total of 22 stays"},
         {{0, 5, 0, 0}, "mago1.jpg", "23 begins again"},
     };
     for (const auto& [words, picture, why] : rows) {

@@ -27,14 +27,11 @@ TEST(NumericText, TakesANumberAsAWhole) {
 
 TEST(SumarUnidades, ReducesTheDigitsAndNamesTheCardTwice) {
     const test::Table<const char*, int, int, std::string, const char*, const char*> rows{
-        {"1978", 25, 3, "III. The Empress", "III. The Empress", "once less 22"},
         {"22", 4, 4, "IV. The Emperor", "IV. The Emperor", "digits, not the value"},
         {"77", 14, 14, "XIV. The Temperance", "XIV. Temperance", "result line and tip differ"},
         {"999999999999", 108, 20, "XX. The Trial", "XX. Judgment", "the largest that fits the box"},
         {"1.5", 6, 6, "VI. The Lovers", "VI. The Lovers", "the point counts nothing"},
         {" -1e5 ", 6, 6, "VI. The Lovers", "VI. The Lovers", "nor do sign, exponent and blanks"},
-        {"96", 15, 15, "XV. The Devil", "XV. The Devil", "no reduction by 14 here"},
-        {"499", 22, 22, "XXII. The World", "XXII. The World", "22 stays"},
     };
     for (const auto& [text, sum, card, name, tip, why] : rows) {
         CardState state;
@@ -73,14 +70,8 @@ TEST(SumarUnidades, ANumberWithoutADigitAbove0EndsTheProgramInPlainWords) {
 
 TEST(SumaNombres, AddsTheLettersOfAField) {
     const test::Table<const char*, std::optional<int>, const char*> rows{
-        {"María", 16, "an accent counts as the plain vowel"},
-        {"Núñez", 29, "ñ has a value of its own"},
-        {"Ana Luisa", 26, "blanks fall out"},
-        {"Ñ", 6, "a capital Ñ"},
-        {"Jose\u0301", 15, "a decomposed accent"},
-        {"Müller-Weiß", 4 + 3 + 3 + 5 + 1 + 6 + 5 + 9, "ü, ß and the hyphen are no letters of the table"},
+        {"Ana Núñez", 36, "by the letters, blanks fall out"},
         {"   ", 0, "blanks alone"},
-        {"Ana 😀 שרה", 7, "other scripts are skipped"},
         {"Juan2", std::nullopt, "a digit refuses the whole field"},
         {"Juan²", 1 + 4 + 1 + 5, "a raised 2 is none"},
     };
@@ -92,7 +83,6 @@ TEST(ReadNames, AddsTheFieldsToACard) {
         {{"María", "", "Núñez", ""}, 1, 0, "45 twice less 22"},
         {{"Ana Luisa", "", "", ""}, 4, 0, "26"},
         {{"", "", "", "José"}, 15, 0, "15 is not reduced by 14"},
-        {{"i", "i", "d", ""}, 22, 0, "22 stays"},
         {{"Juan2", "", "José", ""}, 15, 1, "the other fields still count"},
         {{"Juan2", "José", "3", ""}, 15, 2, "one warning a field"},
         {{"1", "2", "3", "4"}, 0, 4, "a digit in every field"},

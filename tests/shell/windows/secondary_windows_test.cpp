@@ -154,25 +154,18 @@ struct NotifTest : test::WindowFixture {
 TEST_F(NotifTest, SlidesUpByItsLengthOnePixelAStepWithEventsBetween) {
     sliding.slideUp(std::string(265, 'a'));
     ASSERT_TRUE(window());
-    EXPECT_TRUE(sliding.isOpen());
-    EXPECT_TRUE(window()->isVisible());
-    EXPECT_EQ(window()->height(), 178);
-    EXPECT_EQ(window()->y(), bottom() - 178 - 29);
-    EXPECT_EQ(window()->x(), screen().width() - window()->width() - 33);
+    EXPECT_TRUE(sliding.isOpen() && window()->isVisible());
+    EXPECT_EQ(window()->geometry(),
+              QRect(screen().width() - window()->width() - 33, bottom() - 178 - 29, window()->width(), 178));
     EXPECT_EQ(events.runs, 178 + 29);
 }
 
-TEST_F(NotifTest, LettersCountAndNotBytes) {
-    sliding.slideUp(QString(149, u'á').toStdString());
-    EXPECT_EQ(window()->height(), 120);
-}
-
 TEST_F(NotifTest, OneThatStandsSlidesDownInEitherDirectionAndStaysLoaded) {
-    sliding.slideUp("first");
+    sliding.slideUp(QString(149, u'á').toStdString());
     sliding.slideUp("second");
     EXPECT_FALSE(sliding.isOpen());
     ASSERT_TRUE(window());
-    EXPECT_EQ(window()->y(), bottom() + 120);
+    EXPECT_EQ(window()->y(), bottom() + 120) << "the height of the first: letters count, and not bytes";
     sliding.slideUp(std::string(266, 'a'));
     EXPECT_TRUE(sliding.isOpen()) << "a window that waits below the screen comes up again";
     EXPECT_EQ(window()->y(), bottom() - 243 - 29);
@@ -184,14 +177,12 @@ TEST_F(NotifTest, OneThatStandsSlidesDownInEitherDirectionAndStaysLoaded) {
 TEST_F(NotifTest, CloseMarkAndMinimisedModuleTakeItAway) {
     sliding.slideUp("text");
     press(*window(), "Image1");
-    EXPECT_FALSE(window());
-    EXPECT_FALSE(sliding.isOpen());
+    EXPECT_FALSE(window() || sliding.isOpen());
     closeNotification(process);
     EXPECT_FALSE(window()) << "nothing stands, nothing is touched";
     sliding.slideUp("text");
     closeNotification(process);
-    EXPECT_FALSE(window());
-    EXPECT_FALSE(sliding.isOpen());
+    EXPECT_FALSE(window() || sliding.isOpen());
 }
 
 TEST_F(NotifTest, SlideInsideASlideEndsWhereTheLaterTextWants) {
