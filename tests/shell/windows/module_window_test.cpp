@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/windows/frm_about.h"
 #include "shell/windows/second_timer.h"
 #include "shell/windows/window_place.h"
 #include "support/window_fixture.h"
@@ -91,6 +92,19 @@ TEST_F(ModuleWindowTest, MenuEntriesReachTheirWindow) {
     EXPECT_EQ(story.back(), "frmVelmoriax MnuDelResults");
     windows.loadedModule()->menuAction("Mnucont")->trigger();
     EXPECT_EQ(opener.opened, std::vector<std::string>{"/home/ann/velmoriax/Velmoriax.html"});
+}
+
+TEST_F(ModuleWindowTest, AWindowBesideAModuleComesUpOverItsMiddle) {
+    windows.addSecondary("frmAbout", [](Process& p) { return new frmAbout(p); });
+    ModuleWindow& module = open(Module::numbers);
+    module.resize(500, 400);
+    module.move(20, 30);
+    const QWidget& about = windows.touch("frmAbout", process);
+    EXPECT_LE((about.geometry().center() - module.geometry().center()).manhattanLength(), 2);
+    windows.unload("frmAbout");
+    module.hide();
+    const QPoint middle = module.screen()->availableGeometry().center();
+    EXPECT_LE((windows.touch("frmAbout", process).geometry().center() - middle).manhattanLength(), 2);
 }
 
 TEST_F(ModuleWindowTest, ReturnPressesTheButtonThatHasTheFocus) {
