@@ -3,11 +3,9 @@
 
 #include <QCoreApplication>
 #include <QDBusConnection>
-#include <QElapsedTimer>
+#include <QTest>
 #include <QThread>
-#include <QVariant>
 
-#include <functional>
 #include <gtest/gtest.h>
 
 /// Who shows notifications, on a bus and a thread of its own.
@@ -44,13 +42,6 @@ Q_SIGNALS:
 namespace velmoriax::desktop {
 namespace {
 
-bool waitFor(const std::function<bool()>& condition) {
-    QElapsedTimer clock;
-    for (clock.start(); !condition() && clock.elapsed() < 5000;)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-    return condition();
-}
-
 TEST(DesktopNotification, SpeaksTheProtocolAndFollowsTheAnswers) {
     DesktopNotification notification;
     EXPECT_FALSE(notification.show("title", "text")) << "nobody is there yet";
@@ -78,13 +69,13 @@ TEST(DesktopNotification, SpeaksTheProtocolAndFollowsTheAnswers) {
 
     QMetaObject::invokeMethod(&server, [&] { Q_EMIT server.ActionInvoked(8, "default"); });
     QMetaObject::invokeMethod(&server, [&] { Q_EMIT server.ActionInvoked(7, "default"); });
-    EXPECT_TRUE(waitFor([&] { return chosen == 1; })) << chosen;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chosen == 1; })) << chosen;
     QMetaObject::invokeMethod(&server, [&] { Q_EMIT server.NotificationClosed(7, 2); });
-    EXPECT_TRUE(waitFor([&] { return closed == 1; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return closed == 1; }));
     notification.close();
     ASSERT_TRUE(notification.show("Biorhythms alert!", "third"));
     notification.close();
-    EXPECT_TRUE(waitFor([&] { return !server.closedIds.isEmpty(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !server.closedIds.isEmpty(); }));
     EXPECT_EQ(server.closedIds, QList<uint>{7}) << "one that has gone is not closed again";
     thread.quit();
     thread.wait();

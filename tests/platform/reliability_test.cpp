@@ -120,24 +120,6 @@ TEST_F(HardDisk, AFolderUnderAFilesNameStaysAFolder) {
     for (const std::string& literal : kept) EXPECT_EQ(files_.read(at(literal)).status, Status::unreadable) << literal;
 }
 
-// Slow is allowed, hanging is not: the time of a test is limited from outside.
-TEST_F(HardDisk, FiftyMegabytesOfNoiseAreReadWrittenAndKept) {
-    std::string noise(50 << 20, '\0');
-    std::minstd_rand random(1);
-    for (char& byte : noise)
-        if (const auto number = random(); number % 4 != 0) byte = static_cast<char>(number >> 8);
-    files_.replace(at("\\opciones.ini"), noise);
-    files_.replace(at("\\perfiles.txt"), noise);
-    options_.readAtStart();
-    options_.readAtModuleLoad(true);
-    options_.setOption(shell::key::tirada, "real");
-    EXPECT_EQ(options_.option(shell::key::tirada), "real");
-    EXPECT_TRUE(biorhythm::appendProfile(files_, "Ann", {1980, 3, 15}, "7:45"));
-    EXPECT_TRUE(biorhythm::findProfile(files_, "Ann"));
-    for (const char* literal : {"\\opciones.ini", "\\perfiles.txt"})
-        EXPECT_TRUE(bytesAt(literal).starts_with(noise)) << literal;
-}
-
 constexpr int kills = 200; ///< of each writer
 
 /// Some pages of the disk, so that a write takes a while.
