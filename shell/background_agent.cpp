@@ -56,7 +56,7 @@ bool timerBioTick(AgentRecord& agent) {
 void tipcartadia(AgentRecord& agent, base::CivilDate today, std::string_view applicationDirectory,
                  std::string_view tipocartas, tarot::CardState& cards) {
     if (agent.cardDate == today) return;
-    agent.cardName = tarot::sumcartdia(base::shortDateText(today), applicationDirectory, tipocartas, cards).tip;
+    agent.cardName = tarot::sumcartdia(base::shortDateText(today), applicationDirectory, tipocartas, cards).drawn.tip;
     agent.cardDate = today;
     agent.tipCard = "Card of Day: " + agent.cardName;
 }

@@ -17,9 +17,10 @@ DrawnCard drawnMajor(int total, std::string_view applicationDirectory, std::stri
     return drawn;
 }
 
-DrawnCard sumcartdia(std::string_view Fecha, std::string_view applicationDirectory, std::string_view tipocartas,
-                     CardState& state) {
-    return drawnMajor(base::digitSum(Fecha), applicationDirectory, tipocartas, state);
+DigitReading sumcartdia(std::string_view Fecha, std::string_view applicationDirectory, std::string_view tipocartas,
+                        CardState& state) {
+    const std::int16_t sum = base::toInt16(base::digitSum(Fecha));
+    return {sum, drawnMajor(sum, applicationDirectory, tipocartas, state)};
 }
 
 DrawnCard drawnMinor(int total, Suit suit, std::string_view applicationDirectory) {

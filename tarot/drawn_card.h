@@ -21,10 +21,16 @@ struct DrawnCard {
 /// Throws RunTimeError Subscript out of range for a total below 1.
 DrawnCard drawnMajor(int total, std::string_view applicationDirectory, std::string_view tipocartas, CardState& state);
 
+/// A card with the sum of digits that it comes from.
+struct DigitReading {
+    std::int16_t digitSum = 0; ///< unreduced
+    DrawnCard drawn;
+};
+
 /// The card of a date: the sum of the digits of its text, reduced as above. The order of the fields, separators and
 /// leading zeros do not count. Throws as above for a text without a digit above 0.
-DrawnCard sumcartdia(std::string_view Fecha, std::string_view applicationDirectory, std::string_view tipocartas,
-                     CardState& state);
+DigitReading sumcartdia(std::string_view Fecha, std::string_view applicationDirectory, std::string_view tipocartas,
+                        CardState& state);
 
 /// Reduces a total to a card of a suit. Throws as above.
 DrawnCard drawnMinor(int total, Suit suit, std::string_view applicationDirectory);

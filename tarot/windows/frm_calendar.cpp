@@ -86,7 +86,8 @@ void FrmCalendar::pick(QDate day) {
 
 void FrmCalendar::sumcartdia(base::CivilDate date) {
     const DrawnCard drawn = tarot::sumcartdia(base::shortDateText(date), desktop().files.applicationDirectory(),
-                                              record().options.holders.tipocartas, record().cards);
+                                              record().options.holders.tipocartas, record().cards)
+                                .drawn;
     dateCard_ = drawn.card;
     showCard(*ui_->Imgfechasel, drawn, desktop().files);
 }

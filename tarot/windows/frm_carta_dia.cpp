@@ -88,10 +88,12 @@ void FrmCartaDia::connectControls() {
 }
 
 void FrmCartaDia::watchHovers() {
-    const auto* sign = new HoverWatch(*ui_->ImageZod, HoverWatch::Keys::whilePressed);
+    auto* sign = new HoverWatch(*ui_->ImageZod, HoverWatch::Keys::whilePressed);
+    sign->setObjectName(QStringLiteral("zodHover"));
     connect(sign, &HoverWatch::opened, this, &FrmCartaDia::showSignText);
     connect(sign, &HoverWatch::closed, ui_->TextZod, &QWidget::hide);
-    const auto* moon = new HoverWatch(*ui_->ImgLuna);
+    auto* moon = new HoverWatch(*ui_->ImgLuna);
+    moon->setObjectName(QStringLiteral("moonHover"));
     connect(moon, &HoverWatch::opened, this, &FrmCartaDia::showMoonDetails);
     connect(moon, &HoverWatch::closed, this, &FrmCartaDia::closeMoonDetails);
 }
@@ -129,7 +131,8 @@ void FrmCartaDia::showDate() {
 void FrmCartaDia::showCardOfToday() {
     const std::string today = base::shortDateText(base::civilDateOf(desktop().clock.now()));
     const DrawnCard drawn =
-        sumcartdia(today, desktop().files.applicationDirectory(), record().options.holders.tipocartas, record().cards);
+        sumcartdia(today, desktop().files.applicationDirectory(), record().options.holders.tipocartas, record().cards)
+            .drawn;
     dayCard_ = drawn.card;
     ui_->ImgCartadia->setPictureFile(desktop().files, drawn.picturePath);
     ui_->ImgCartadia->setTip(text(drawn.tip));
@@ -189,8 +192,9 @@ void FrmCartaDia::tickSecond() {
     case MidnightStep::showNewDay:
         return showNewDay();
     case MidnightStep::hideAgain:
+        hideToTray();
         record().shell.refreshingView = false;
-        return hideToTray();
+        return;
     case MidnightStep::none:
         return;
     }

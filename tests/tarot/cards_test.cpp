@@ -26,11 +26,12 @@ TEST(CardCatalogue, DatesBecomeCards) {
     };
     CardState state;
     for (const auto& [date, card, name, why] : rows) {
-        const DrawnCard drawn = sumcartdia(date, home, "marsellaone", state);
+        const DrawnCard drawn = sumcartdia(date, home, "marsellaone", state).drawn;
         EXPECT_EQ(drawn.card, card) << why;
         EXPECT_EQ(drawn.tip, name) << why;
         EXPECT_EQ(state.currentCard, card) << why;
     }
+    EXPECT_EQ(sumcartdia("9/29/1999", home, "marsellaone", state).digitSum, 48) << "the sum itself is not reduced";
     EXPECT_THROW(sumcartdia("//", home, "marsellaone", state), base::RunTimeError);
 }
 
