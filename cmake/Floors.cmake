@@ -9,7 +9,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 list(APPEND VELMORIAX_WARNINGS $<$<BOOL:${VELMORIAX_WERROR}>:-Werror>)
 
-set(VELMORIAX_LIBRARY_FOLDER "${PROJECT_BINARY_DIR}/app")
+set(VELMORIAX_LIBRARY_FOLDER "${PROJECT_BINARY_DIR}/app/late")
 
 # Floors 0 to 2: the standard library alone, strict warnings.
 function(velmoriax_room name)

@@ -118,7 +118,7 @@ int main(int argc, char** argv) {
 
     desktop::SystemClock clock;
     desktop::SystemTimeZone zone;
-    const std::string libraryFolder = QApplication::applicationDirPath().toStdString();
+    const std::string libraryFolder = QApplication::applicationDirPath().toStdString() + "/late";
     desktop::Mixer mixer(files, libraryFolder);
     desktop::QtDocumentOpener opener(files);
     desktop::XdgAutostart autostart(QApplication::applicationFilePath().toStdString());
