@@ -66,7 +66,7 @@ TEST_F(OptionsDialogTest, StoredValuesAreComparedExactly) {
     }
 }
 
-TEST_F(OptionsDialogTest, AClickActsAtOnceAndIsFoundAtTheNextOpening) {
+TEST_F(OptionsDialogTest, DefaultsAndClicksActAtOnceAndAreFoundAtTheNextOpening) {
     const auto acting = [](const OptionHolders& h) {
         return std::array{h.tipocartas, h.minimizeTo, h.hemisferio, h.modoSilencioso,
                           h.muteCod,    h.bgSound,    h.tooltips,   h.estiloTooltips};
@@ -75,8 +75,12 @@ TEST_F(OptionsDialogTest, AClickActsAtOnceAndIsFoundAtTheNextOpening) {
         options.readAtStart();
         options.readAtModuleLoad(true);
     };
+    readAll(record_.options);
+    EXPECT_EQ(holders().alertLevel, "maxi");
+    const auto ofEmptyFile = acting(holders());
     write(wholeFile);
     readAll(record_.options);
+    EXPECT_EQ(acting(holders()), ofEmptyFile) << "a missing value acts as the one that stands in the whole file";
     open(dialog_);
     for (const O clicked :
          {O::CheckMini,    O::CheckMini,    O::OptReal,       O::OptObj,           O::OptionClassic,
@@ -146,7 +150,6 @@ TEST_F(OptionsDialogTest, ThePersonalTipNeedsThePanelAtTheBottom) {
     EXPECT_EQ(boxes_.shown.size(), 1U);
     EXPECT_TRUE(record_.shell.taskBarAtBottom);
     EXPECT_FALSE(dialog_.state()[O::CheckNoSound].enabled);
-    EXPECT_EQ(option(key::estiloTooltips), "personal");
     EXPECT_EQ(holders().estiloTooltips, "personal");
 
     panelAt(platform::TaskBarPosition::topEdge);

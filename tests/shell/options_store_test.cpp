@@ -65,21 +65,6 @@ TEST_F(OptionsStoreTest, WhatCannotBeReadOrWrittenStays) {
     EXPECT_EQ(files_.at("\\opciones.ini"), "[opciones]\r\nTirada=real\r\n") << "not overwritten by a default";
 }
 
-TEST_F(OptionsStoreTest, TheEmptyFileGivesTheDefaults) {
-    options_.readAtStart();
-    options_.readAtModuleLoad(true);
-    const OptionHolders& holders = options_.holders;
-    EXPECT_EQ(holders.alertLevel, "maxi");
-    EXPECT_EQ(holders.minimizeTo, "systray");
-    EXPECT_EQ(holders.tipocartas, "marsellaone");
-    EXPECT_EQ(holders.tooltips, "ToolTips on");
-    EXPECT_EQ(holders.modoSilencioso, "nomudo");
-    EXPECT_EQ(holders.muteCod, "nomuted");
-    EXPECT_EQ(holders.estiloTooltips, "windows xp");
-    EXPECT_EQ(holders.hemisferio, "Norte");
-    EXPECT_EQ(holders.bgSound, "NoBgSound");
-}
-
 TEST_F(OptionsStoreTest, ComparisonsAreExact) {
     files_.at("\\opciones.ini") = "[opciones]\r\nMinimizar=Systray\r\ntipocartas=foo\r\nHemisferio=sur\r\n"
                                   "Nivel Alertas=Medium (change of phase + critical  + actual s.)\r\n";

@@ -36,8 +36,6 @@ struct Oracle : testing::Test {
 TEST(Sustituir, CountsLettersAndDigitsAndNothingElse) {
     const test::Table<const char*, int, const char*> rows{
         {"Hola mundo", 43, "blanks fall out"},
-        {"Mañana", 18, "ñ counts 6"},
-        {"MAÑANA", 18, "capitals count as small letters"},
         {"man\u0303ana", 18, "a decomposed ñ is one letter"},
         {"ajrá bks clt dmuú envé fñw goxó hpy iqzí", 4 + 6 + 9 + 16 + 20 + 18 + 28 + 24 + 36, "the whole table"},
         {"ÁÉÍÓÚÑ", 1 + 5 + 9 + 7 + 4 + 6, "accented capitals"},
