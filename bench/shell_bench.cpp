@@ -24,19 +24,7 @@ struct Tip : test::WindowFixture {
 
     QTemporaryDir user;
     desktop::DiskFiles disk{{user.path().toStdString(), VELMORIAX_DATA_DIR}};
-    DesktopServices onDisk{clock,
-                           zone,
-                           disk,
-                           sounds,
-                           media,
-                           opener,
-                           boxes,
-                           autostart,
-                           events,
-                           random,
-                           tray,
-                           taskBar,
-                           VELMORIAX_LIBRARY_DIR};
+    DesktopServices onDisk = servicesOn(disk);
     Process whole{record, onDisk, windows};
     FrmTimer hub{whole};
 };

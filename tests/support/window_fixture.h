@@ -102,6 +102,22 @@ protected:
         QMetaObject::invokeMethod(found, "timeout");
     }
 
+    shell::DesktopServices servicesOn(platform::Files& where) {
+        return {clock,
+                zone,
+                where,
+                sounds,
+                media,
+                opener,
+                boxes,
+                autostart,
+                events,
+                random,
+                tray,
+                taskBar,
+                VELMORIAX_LIBRARY_DIR};
+    }
+
     QApplication& qt = application();
     FakeClock clock;
     FakeZone zone;
@@ -116,19 +132,7 @@ protected:
     FakeNotification notification;
     FakeTaskBar taskBar;
     desktop::DesktopTray tray{QIcon()};
-    shell::DesktopServices services{clock,
-                                    zone,
-                                    files,
-                                    sounds,
-                                    media,
-                                    opener,
-                                    boxes,
-                                    autostart,
-                                    events,
-                                    random,
-                                    tray,
-                                    taskBar,
-                                    VELMORIAX_LIBRARY_DIR};
+    shell::DesktopServices services = servicesOn(files);
     shell::ProcessRecord record{files};
     shell::WindowRegistry windows{events};
     shell::Process process{record, services, windows};
