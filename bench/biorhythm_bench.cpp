@@ -56,7 +56,7 @@ void alert(benchmark::State& bench) {
     SilentSounds sounds;
     BioState state;
     setBirthDate(state, birth.date);
-    AlertRecord record;
+    AlertState record;
     record.manualAlert = bench.range(0) != 0;
     for ([[maybe_unused]] const auto round : bench) {
         const base::DateValue now = laterMoment();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "biorhythm/windows/bio_plot.h"
+#include "biorhythm/windows/biorhythm_windows.h"
 #include "biorhythm/windows/frm_bio.h"
 #include "support/window_fixture.h"
 
@@ -17,21 +18,23 @@ struct View : test::WindowFixture {
         files.at("\\biofinal.dat") = "0,0,0\r\n";
         files.at("\\perfiles.txt") = "Ann,March/15/1980,7:45\r\nBob,January/1/1980,12:30\r\n";
         if (second) files.at("\\opciones.ini") = "[opciones]\r\nNombre secundario=Bob\r\nDibujar secundario=1\r\n";
-        view = &load<frmBio>(shell::Module::biorhythms);
+        addWindows(windows, context, biorhythms);
+        view = &windows.touch<frmBio>();
         QCoreApplication::processEvents();
     }
     void TestBody() override {}
-    using WindowFixture::files, WindowFixture::record;
+    using WindowFixture::files;
 
+    BiorhythmState biorhythms;
     frmBio* view;
 };
 
 void stepOfAnArrow(benchmark::State& state) {
     View bench(state.range(0) == 2);
-    bench.record.bioView.manualDate = true;
+    bench.biorhythms.view.manualDate = true;
     for (auto step : state) {
-        bench.record.bioView.reading =
-            base::civilDateOfDay(base::dayNumber(bench.record.bioView.reading) % 60000 + 1000);
+        bench.biorhythms.view.reading =
+            base::civilDateOfDay(base::dayNumber(bench.biorhythms.view.reading) % 60000 + 1000);
         bench.view->calcBio();
         QCoreApplication::processEvents();
     }

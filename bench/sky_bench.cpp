@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/date_text.h"
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "sky/ingress_search.h"
 #include "sky/moon_engine.h"
 #include "sky/moon_illumination.h"
@@ -57,7 +57,7 @@ void lastSignSearch(benchmark::State& state) {
     test::FakeFiles files;
     int month = 0;
     for (const std::string_view name : sky::signFileNames)
-        files.at("\\fechas-db\\" + base::lowerWestern(name) + ".txt") = table(++month);
+        files.at("\\fechas-db\\" + base::lowerWindows1252(name) + ".txt") = table(++month);
     const base::DateValue moment = base::dateValueOf({firstYear + years - 1, 12, 11}, {0, 0, 0});
     if (!sky::findSignStay(files, moment)) state.SkipWithError("not found");
     for (auto _ : state) benchmark::DoNotOptimize(sky::findSignStay(files, moment));

@@ -80,7 +80,7 @@ void openNotification(const std::string& text, const AlertOutlets& outlets) {
     if (outlets.notification.isOpen()) outlets.sounds.playWav("Url.wav");
 }
 
-std::string_view tipMark(Trend trend) {
+std::string_view tipMark(shell::Trend trend) {
     constexpr std::array<std::string_view, 3> marks{" % (<)", " % (=)", " % (>)"};
     return marks[static_cast<std::size_t>(trend)];
 }
@@ -93,7 +93,7 @@ std::string helpLines() {
            "- Biorhythms will update every 30 minutes";
 }
 
-void biotip(const platform::Files& files, BioState& state, AlertRecord& record, base::DateValue now) {
+void biotip(const platform::Files& files, BioState& state, AlertState& record, base::DateValue now) {
     loadBirth(files, state);
     if (!birthDateIsSet(state)) return;
     const base::CivilMoment present = base::civilMomentOf(now);
@@ -104,7 +104,7 @@ void biotip(const platform::Files& files, BioState& state, AlertRecord& record, 
         "Biorhythms (avg.): " + percentText(average) + std::string(tipMark(trendOf(average, averageNext)));
 }
 
-void alertasbio(AlertRecord& record, BioState& state, std::string_view alertLevel, const AlertMoment& moment,
+void alertasbio(AlertState& record, BioState& state, std::string_view alertLevel, const AlertMoment& moment,
                 const AlertOutlets& outlets) {
     if (alertLevel == "zero" && !record.manualAlert) return;
     if (!birthDateIsSet(state)) return;
@@ -119,18 +119,18 @@ void alertasbio(AlertRecord& record, BioState& state, std::string_view alertLeve
     record.alertText.clear();
 }
 
-void alertByHand(AlertRecord& record, BioState& state, std::string_view alertLevel, const AlertMoment& moment,
+void alertByHand(AlertState& record, BioState& state, std::string_view alertLevel, const AlertMoment& moment,
                  const AlertOutlets& outlets) {
     record.manualAlert = true;
     if (birthDateIsSet(state)) return alertasbio(record, state, alertLevel, moment, outlets);
     showHelpLines(record, outlets);
 }
 
-bool helpIsDue(const AlertRecord& record, const BioState& state) {
+bool helpIsDue(const AlertState& record, const BioState& state) {
     return !record.welcomeShown && !record.manualAlert && !birthDateIsSet(state);
 }
 
-void showHelpLines(AlertRecord& record, const AlertOutlets& outlets) {
+void showHelpLines(AlertState& record, const AlertOutlets& outlets) {
     record.alertText = helpLines();
     record.welcomeShown = true;
     outlets.notification.slideUp(helpLines());
@@ -153,7 +153,7 @@ std::string alertHead(std::string_view alertLevel, const AlertMessages& messages
 std::string valueLines(const BioState& state) {
     std::string lines;
     for (std::size_t i = 0; i < cycleCount; ++i) {
-        const bool rising = trendOf(state.cycle[i], state.cycleNext[i]) == Trend::rising;
+        const bool rising = trendOf(state.cycle[i], state.cycleNext[i]) == shell::Trend::rising;
         if (i > 0) lines += lineBreak;
         lines += cycleTable[i].lineWord;
         lines += percentText(state.cycle[i]) + (rising ? " % (rising)" : " % (falling)");
@@ -168,7 +168,7 @@ std::string alertKey(std::string_view alertLevel, const AlertMessages& messages)
     return key.append(messages.critical).append(messages.crossing);
 }
 
-bool alertOpens(const AlertRecord& record, std::string_view alertLevel, std::string_view key) {
+bool alertOpens(const AlertState& record, std::string_view alertLevel, std::string_view key) {
     if (record.manualAlert || record.startupAlert) return true;
     return key != record.lastAlertKey && alertLevel != levelOfLinesAlone;
 }

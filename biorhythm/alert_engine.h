@@ -14,7 +14,7 @@
 namespace velmoriax::biorhythm {
 
 /// What the alerts share with the windows and keep from one run to the next; nothing of it is saved.
-struct AlertRecord {
+struct AlertState {
     bool manualAlert = false;  ///< from the button of the view until the next half-hour or the closing of the view
     bool startupAlert = false; ///< up for the one run at start
     bool welcomeShown = false; ///< the help lines were shown since the view was loaded
@@ -39,23 +39,23 @@ std::string helpLines();
 
 /// Fills `bioTipText` for now with the birth date of the file and the time of birth that the record holds; an unset
 /// birth date leaves it. Throws what reading the birth date throws.
-void biotip(const platform::Files& files, BioState& state, AlertRecord& record, base::DateValue now);
+void biotip(const platform::Files& files, BioState& state, AlertState& record, base::DateValue now);
 
 /// One run: computes, builds the text that `alertLevel` (one of the nine codes) allows, and opens the notification when
 /// there is reason to. Does nothing without a birth date, and on level "zero" unless it is run by hand.
-void alertasbio(AlertRecord& record, BioState& state, std::string_view alertLevel, const AlertMoment& moment,
+void alertasbio(AlertState& record, BioState& state, std::string_view alertLevel, const AlertMoment& moment,
                 const AlertOutlets& outlets);
 
 /// The button of the view: the help lines while no birth date is set, else a run for the date of the view. A
 /// notification that stands is to be taken away first.
-void alertByHand(AlertRecord& record, BioState& state, std::string_view alertLevel, const AlertMoment& moment,
+void alertByHand(AlertState& record, BioState& state, std::string_view alertLevel, const AlertMoment& moment,
                  const AlertOutlets& outlets);
 
 /// True when the first activation of the view has to show the help lines.
-bool helpIsDue(const AlertRecord& record, const BioState& state);
+bool helpIsDue(const AlertState& record, const BioState& state);
 
 /// Shows the help lines, which stay in `alertText`.
-void showHelpLines(AlertRecord& record, const AlertOutlets& outlets);
+void showHelpLines(AlertState& record, const AlertOutlets& outlets);
 
 // The steps of a run.
 
@@ -70,6 +70,6 @@ std::string alertKey(std::string_view alertLevel, const AlertMessages& messages)
 
 /// Whether a run opens the notification: by hand and at start always, else when its key is a new one; level "solo" has
 /// nothing new to tell then.
-bool alertOpens(const AlertRecord& record, std::string_view alertLevel, std::string_view key);
+bool alertOpens(const AlertState& record, std::string_view alertLevel, std::string_view key);
 
 } // namespace velmoriax::biorhythm

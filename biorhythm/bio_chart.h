@@ -17,7 +17,7 @@ inline constexpr std::size_t readingRow = 14; ///< the row, counted from 0, of t
 /// A line of the chart: the second profile's lines keep the hue and have a quarter of the width.
 struct SeriesLook {
     std::string_view legend;
-    Colour colour;
+    base::Colour colour;
     int width; ///< in the chart's own unit: only the ratio of the lines means something
 };
 extern const std::array<SeriesLook, chartSeriesCount> seriesTable;
@@ -26,7 +26,7 @@ extern const std::array<SeriesLook, chartSeriesCount> seriesTable;
 struct BarLook {
     double xFrom;
     double xTo;
-    Colour colour;
+    base::Colour colour;
 };
 extern const std::array<BarLook, cycleCount> barTable;
 

@@ -2,6 +2,7 @@
 #include "biorhythm/bio_gauge.h"
 
 #include "base/date_text.h"
+#include "biorhythm/cycle_engine.h"
 
 namespace velmoriax::biorhythm {
 
@@ -14,7 +15,7 @@ std::string infoText(const base::CivilMoment& birth) {
 
 } // namespace
 
-BioGauge drawBioMedia(BioState& state, base::DateValue now) {
+shell::AverageGauge drawBioMedia(BioState& state, base::DateValue now) {
     const base::CivilMoment present = base::civilMomentOf(now);
     const base::CivilMoment birth = birthOf(state);
     computeLived(state, birth, present.date, present.time);

@@ -11,7 +11,7 @@ namespace velmoriax::biorhythm {
 
 namespace {
 
-constexpr Colour valueGreen{150, 250, 100};
+constexpr base::Colour valueGreen{150, 250, 100};
 constexpr std::int16_t halfMinutesOfHalfHour = 60;
 
 CycleShown shownCycle(float now, float next) {

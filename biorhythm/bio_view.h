@@ -25,9 +25,9 @@ struct BioViewState {
 /// A value of one cycle as the view shows it.
 struct CycleShown {
     std::string caption; ///< "(44.72 %)"
-    Colour colour;       ///< of the caption
+    base::Colour colour; ///< of the caption
     float bar;           ///< height of the bar, -1 to 1
-    Trend trend;         ///< which of the two small pictures stands; level leaves them as they are
+    shell::Trend trend;  ///< which of the two small pictures stands; level leaves them as they are
 };
 
 /// Everything that a calculation puts on the view, the chart apart.
@@ -36,7 +36,7 @@ struct BioShown {
     std::int32_t remainingDays; ///< from the date of reading to the target, negative behind it
     std::array<CycleShown, cycleCount> cycles;
     std::string average; ///< average and rating
-    Colour averageColour;
+    base::Colour averageColour;
     std::string time; ///< "Time: " and the clock's time
 };
 

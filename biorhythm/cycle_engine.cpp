@@ -105,9 +105,9 @@ std::string percentText(float sine) {
     return base::formatFixed(sine * 100.0F, 2);
 }
 
-Trend trendOf(float now, float next) {
-    if (next > now) return Trend::rising;
-    return next < now ? Trend::falling : Trend::level;
+shell::Trend trendOf(float now, float next) {
+    if (next > now) return shell::Trend::rising;
+    return next < now ? shell::Trend::falling : shell::Trend::level;
 }
 
 } // namespace velmoriax::biorhythm

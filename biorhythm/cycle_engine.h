@@ -2,6 +2,7 @@
 #pragma once
 
 #include "biorhythm/bio_state.h"
+#include "shell/average_gauge.h"
 
 #include <string>
 
@@ -54,7 +55,6 @@ double meanOf(const CycleValues& values);
 std::string percentText(float sine);
 
 /// Where a value goes over the coming hour.
-enum class Trend { falling, level, rising };
-Trend trendOf(float now, float next);
+shell::Trend trendOf(float now, float next);
 
 } // namespace velmoriax::biorhythm

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/colour.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -26,13 +28,7 @@ struct CycleFacts {
 };
 extern const std::array<CycleFacts, cycleCount> cycleTable;
 
-struct Colour {
-    std::uint8_t red;
-    std::uint8_t green;
-    std::uint8_t blue;
-    bool operator==(const Colour&) const = default;
-};
-inline constexpr Colour pureGreen{0, 255, 0};
-inline constexpr Colour pureRed{255, 0, 0};
+inline constexpr base::Colour pureGreen{0, 255, 0};
+inline constexpr base::Colour pureRed{255, 0, 0};
 
 } // namespace velmoriax::biorhythm

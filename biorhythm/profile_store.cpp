@@ -4,7 +4,7 @@
 #include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "biorhythm/field_text.h"
 
 #include <algorithm>
@@ -115,7 +115,7 @@ std::vector<std::string> profileLines(const platform::Files& files) {
     const std::string bytes = files.read(listPath(files)).bytes;
     std::vector<std::string> lines;
     for (const RawLine& line : rawLines(bytes))
-        if (!line.text.empty()) lines.push_back(base::fromWestern(line.text));
+        if (!line.text.empty()) lines.push_back(base::fromWindows1252(line.text));
     return lines;
 }
 
@@ -127,7 +127,7 @@ std::vector<std::string> profileNames(const platform::Files& files) {
 
 std::optional<base::CivilMoment> findProfile(const platform::Files& files, std::string_view name) {
     std::optional<base::CivilMoment> birth;
-    const std::string nameInFile = base::fromWestern(base::toWestern(name));
+    const std::string nameInFile = base::fromWindows1252(base::toWindows1252(name));
     for (const std::string& line : profileLines(files)) {
         const ProfileFields fields = parseProfileLine(line);
         if (fields.name != nameInFile) continue;
@@ -167,7 +167,7 @@ bool appendToCopy(platform::Files& files, const std::string& copyPath, std::stri
     if (status == Status::unreadable) return false;
     const bool endsInsideLine = !bytes.empty() && lineEnd.find(bytes.back()) == std::string_view::npos;
     if (endsInsideLine) bytes += lineEnd;
-    bytes.append(base::toWestern(profileLine(name, birth, timeText))).append(lineEnd);
+    bytes.append(base::toWindows1252(profileLine(name, birth, timeText))).append(lineEnd);
     return files.replace(copyPath, bytes);
 }
 
@@ -175,14 +175,14 @@ std::optional<std::string> saveProfile(platform::Files& files, platform::Message
                                        shell::OptionsStore& options, base::CivilDate birth, std::string_view timeText) {
     const std::string name = boxes.askText("Name for this profile:", "Profile").value_or(std::string{});
     if (name.empty()) return std::nullopt;
-    if (standsInFull(files, base::toWestern(profileLine(name, birth, timeText)))) {
+    if (standsInFull(files, base::toWindows1252(profileLine(name, birth, timeText)))) {
         boxes.show(platform::BoxIcon::warning, "This profile exists already, put another please.", "Error");
         return std::nullopt;
     }
     if (!appendProfile(files, name, birth, timeText))
         throw base::RunTimeError(base::RunTimeError::Code::pathFileAccess, "perfiles.txt");
     options.setOption(shell::key::perfilBio, name);
-    return base::fromWestern(base::toWestern(name));
+    return base::fromWindows1252(base::toWindows1252(name));
 }
 
 std::optional<std::string> copyWithoutProfile(platform::Files& files, platform::MessageBoxes& boxes,
@@ -192,7 +192,7 @@ std::optional<std::string> copyWithoutProfile(platform::Files& files, platform::
     if (list.status != Status::read) return std::nullopt;
     auto path = temporaryFile(files, boxes, messages);
     if (!path) return std::nullopt;
-    if (files.replace(*path, withoutLinesHolding(list.bytes, base::toWestern(selectedLine)))) return path;
+    if (files.replace(*path, withoutLinesHolding(list.bytes, base::toWindows1252(selectedLine)))) return path;
     files.remove(*path);
     return std::nullopt;
 }

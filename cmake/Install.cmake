@@ -7,7 +7,7 @@ set(made "${PROJECT_BINARY_DIR}/packaging")
 set(readable OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 
 install(TARGETS Velmoriax velmoriax_sound velmoriax_chart
-        RUNTIME DESTINATION lib/velmoriax LIBRARY DESTINATION lib/velmoriax/late)
+        RUNTIME DESTINATION lib/velmoriax LIBRARY DESTINATION lib/velmoriax/plugins)
 file(MAKE_DIRECTORY "${made}")
 file(CREATE_LINK ../lib/velmoriax/Velmoriax "${made}/velmoriax" SYMBOLIC)
 install(FILES "${made}/velmoriax" DESTINATION bin)

@@ -8,10 +8,10 @@ public:
     virtual ~PendingEvents() = default;
 
     /// Lets the events that wait run, timers and other windows included: a handler may be entered again inside.
-    virtual void letRun() = 0;
+    virtual void processEvents() = 0;
 
-    /// True while control is inside `letRun` or a box: what is under way outside of it still needs its windows.
-    virtual bool areRunning() const = 0;
+    /// True while control is inside `processEvents` or a box: what is under way outside of it still needs its windows.
+    virtual bool isProcessing() const = 0;
 };
 
 } // namespace velmoriax::platform

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/program_paths.h"
 
-#include "base/western_text.h"
+#include "base/windows1252.h"
 
 #include <algorithm>
 
@@ -17,7 +17,7 @@ std::string fileSystemPath(std::string_view programPath, std::string_view applic
     if (!programPath.starts_with(applicationDirectory)) return std::string(programPath);
     std::string inside(programPath.substr(applicationDirectory.size()));
     std::ranges::replace(inside, '\\', '/');
-    if (base::lowerWestern(inside) == optionsFile) inside = optionsFile;
+    if (base::lowerWindows1252(inside) == optionsFile) inside = optionsFile;
     const bool isRoot = applicationDirectory == "/";
     if (isRoot) return inside.starts_with('/') ? inside : "/" + inside;
     return std::string(applicationDirectory) + inside;

@@ -3,7 +3,6 @@
 
 #include "base/date_text.h"
 #include "base/number_text.h"
-#include "tarot/drawn_card.h"
 
 namespace velmoriax::shell {
 
@@ -19,7 +18,7 @@ base::DateValue timeOfDay(base::DateValue moment) {
 }
 
 /// Counts the seconds of a notification that stands; true at the thirtieth. Any other state begins anew.
-bool notificationTimesOut(AgentRecord& agent, bool notifOpen) {
+bool notificationTimesOut(AgentState& agent, bool notifOpen) {
     if (notifOpen && ++agent.notifTicks != notificationSeconds) return false;
     agent.notifTicks = 0;
     return notifOpen;
@@ -27,12 +26,12 @@ bool notificationTimesOut(AgentRecord& agent, bool notifOpen) {
 
 } // namespace
 
-void startUptime(AgentRecord& agent, base::DateValue now) {
+void startUptime(AgentState& agent, base::DateValue now) {
     agent.upStart = timeOfDay(now);
     agent.upDays = 0;
 }
 
-bool timeUpTick(AgentRecord& agent, base::DateValue now, bool notifOpen) {
+bool timeUpTick(AgentState& agent, base::DateValue now, bool notifOpen) {
     const base::DateValue time = timeOfDay(now);
     agent.LblTime = base::timeText(time);
     agent.LblUptime = base::timeText(agent.upAccum + (time - agent.upStart));
@@ -47,18 +46,10 @@ bool timeUpTick(AgentRecord& agent, base::DateValue now, bool notifOpen) {
     return notificationTimesOut(agent, notifOpen);
 }
 
-bool timerBioTick(AgentRecord& agent) {
+bool timerBioTick(AgentState& agent) {
     if (++agent.alertTicks < halfMinutesBetweenAlerts) return false;
     agent.alertTicks = 0;
     return true;
-}
-
-void tipcartadia(AgentRecord& agent, base::CivilDate today, std::string_view applicationDirectory,
-                 std::string_view tipocartas, tarot::CardState& cards) {
-    if (agent.cardDate == today) return;
-    agent.cardName = tarot::sumcartdia(base::shortDateText(today), applicationDirectory, tipocartas, cards).drawn.tip;
-    agent.cardDate = today;
-    agent.tipCard = "Card of Day: " + agent.cardName;
 }
 
 } // namespace velmoriax::shell

@@ -2,19 +2,15 @@
 #pragma once
 
 #include "base/date_value.h"
-#include "shell/tip_source.h"
-#include "tarot/card_catalogue.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
-#include <string_view>
 
-/// What the hub carries through all changes of module: clock and uptime texts, the time-out of the notification, the
-/// beat of the alerts, the card of the tray tip.
+/// What the hub keeps through all changes of module: clock and uptime texts, the time-out of the notification and the
+/// schedule of the alerts.
 namespace velmoriax::shell {
 
-struct AgentRecord {
+struct AgentState {
     std::string LblTime;   ///< time of day at the last tick
     std::string LblUptime; ///< uptime of the running day, as a time text
     std::string LblDias;   ///< whole days of uptime, such as "3d "
@@ -25,25 +21,17 @@ struct AgentRecord {
 
     std::int16_t notifTicks = 0; ///< seconds that the notification has stood
     std::int16_t alertTicks = 0; ///< half-minutes since the last alert run
-
-    std::optional<base::CivilDate> cardDate; ///< the day that `tipCard` was worked out for; none at start
-    std::string cardName;
-    std::string tipCard;
 };
 
 /// The process begins to count its uptime.
-void startUptime(AgentRecord& agent, base::DateValue now);
+void startUptime(AgentState& agent, base::DateValue now);
 
 /// One second of the hub. True when the notification has stood its 30 seconds and is to slide down.
 /// Days and collected time turn on texts with exact seconds: a tick that falls on another second loses the stretch of
 /// that day, and nothing makes up for it. In the very tick of midnight the uptime is the text of a negative time.
-bool timeUpTick(AgentRecord& agent, base::DateValue now, bool notifOpen);
+bool timeUpTick(AgentState& agent, base::DateValue now, bool notifOpen);
 
 /// Half a minute of the hub. True at every sixtieth: an alert run is due.
-bool timerBioTick(AgentRecord& agent);
-
-/// The card's line of the tip, worked out once a day at most.
-void tipcartadia(AgentRecord& agent, base::CivilDate today, std::string_view applicationDirectory,
-                 std::string_view tipocartas, tarot::CardState& cards);
+bool timerBioTick(AgentState& agent);
 
 } // namespace velmoriax::shell

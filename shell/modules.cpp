@@ -5,26 +5,13 @@
 
 namespace velmoriax::shell {
 
-const std::array<ModuleRow, 6> modules{{
-    {Module::cardOfDay, "FrmCartaDia", "The Card of Day..."},
-    {Module::anotherDay, "FrmCalendar", "Another Day..."},
-    {Module::oracle, "Frmoracle", "Oracle"},
-    {Module::names, "FrmName", "Names"},
-    {Module::numbers, "frmVelmoriax", "Numbers"},
-    {Module::biorhythms, "frmBio", "Biorhythms"},
-}};
-
-std::string_view windowNameOf(Module module) {
-    return std::ranges::find(modules, module, &ModuleRow::module)->windowName;
+const ModuleInfo& firstModule(const ModuleList& modules, std::string_view initialText) {
+    const auto found = std::ranges::find(modules, initialText, &ModuleInfo::initialText);
+    return found == modules.end() ? *modules.front() : **found;
 }
 
-Module firstModule(std::string_view initialText) {
-    const auto* row = std::ranges::find(modules, initialText, &ModuleRow::initialText);
-    return row == modules.end() ? Module::cardOfDay : row->module;
-}
-
-bool startsHidden(Module module, std::string_view startMinimized) {
-    return startMinimized == "True" || (module != Module::cardOfDay && startMinimized == "Verdadero");
+bool startsHidden(const ModuleInfo& module, std::string_view startMinimized) {
+    return startMinimized == "True" || (module.startsHiddenOnVerdadero && startMinimized == "Verdadero");
 }
 
 } // namespace velmoriax::shell

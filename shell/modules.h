@@ -1,30 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
+#include "shell/navigation.h"
+
+#include <span>
 #include <string_view>
+#include <vector>
 
 namespace velmoriax::shell {
 
-/// The six windows that replace one another. Exactly one is loaded at any moment.
-enum class Module { cardOfDay, anotherDay, oracle, names, numbers, biorhythms };
-
-struct ModuleRow {
-    Module module;
+/// One of the windows that replace one another; exactly one is loaded at any moment. Each subsystem has a table of its
+/// modules. They are known to one another by the name of the window.
+struct ModuleInfo {
     std::string_view windowName;
-    std::string_view initialText; ///< as the option of the first module names it
+    std::string_view initialText;        ///< as the option of the first module and its list name it
+    bool startsHiddenOnVerdadero = true; ///< old files hold the Spanish word
+    ModuleNavigation navigation{};
 };
 
-/// In the order in which the option's text is compared, which is the order of the list in the options dialog.
-extern const std::array<ModuleRow, 6> modules;
+/// All modules in the order in which the option's text is compared, which is the order of the list in the options
+/// dialog. The first one is the module for an unknown text.
+using ModuleList = std::vector<const ModuleInfo*>;
 
-std::string_view windowNameOf(Module module);
+/// The module that the program opens first; the first of the list for an unknown text and for the empty one. The list
+/// holds one at least.
+const ModuleInfo& firstModule(const ModuleList& modules, std::string_view initialText);
 
-/// The module that the program opens first; the card of the day for an unknown text and for the empty one.
-Module firstModule(std::string_view initialText);
-
-/// Whether a module that loads at start stays hidden. The card of the day knows only "True"; the five others accept the
-/// Spanish "Verdadero" as well, which old files hold.
-bool startsHidden(Module module, std::string_view startMinimized);
+/// Whether a module that loads at start stays hidden.
+bool startsHidden(const ModuleInfo& module, std::string_view startMinimized);
 
 } // namespace velmoriax::shell

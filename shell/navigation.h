@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/modules.h"
-
-#include <optional>
 #include <span>
 #include <string_view>
 
-/// The ways between the windows, as tables: the menus of each module and what its buttons lead to.
+/// The ways between the windows, as tables: the menus of a module and what its buttons lead to.
 namespace velmoriax::shell {
 
 enum class Command {
@@ -18,7 +15,7 @@ enum class Command {
     help,    ///< open the help
     exit,    ///< end the program
     own,     ///< the window's own business, found by the entry's name
-    submenu, ///< opens the entries that stand one level deeper behind it
+    submenu, ///< opens the entries that follow one level deeper
     separator
 };
 
@@ -26,8 +23,8 @@ struct MenuEntry {
     std::string_view name; ///< control name
     std::string_view caption;
     Command command = Command::own;
-    Module target = Module::cardOfDay; ///< for goTo
-    int depth = 0;                     ///< 1 for the entries of a submenu
+    std::string_view target{}; ///< for goTo: the name of the module's window
+    int depth = 0;             ///< 1 for the entries of a submenu
     bool checkable = false;
 };
 
@@ -41,16 +38,33 @@ struct Menu {
 struct ButtonRow {
     std::string_view name;
     Command command = Command::goTo;
-    Module target = Module::cardOfDay;
+    std::string_view target{};
 };
 
 struct ModuleNavigation {
-    Module module;
     std::span<const ButtonRow> buttons;
     std::span<const Menu> mainMenus;
     Menu iconMenu; ///< the tray's popup menu "MnuIcon"
 };
 
-const ModuleNavigation& navigationOf(Module module);
+// The rows of the tables.
+
+constexpr MenuEntry goEntry(std::string_view name, std::string_view caption, std::string_view target, int depth = 0) {
+    return {name, caption, Command::goTo, target, depth};
+}
+
+constexpr MenuEntry commandEntry(std::string_view name, std::string_view caption, Command command) {
+    return {name, caption, command};
+}
+
+constexpr MenuEntry checkEntry(std::string_view name, std::string_view caption) {
+    return {name, caption, Command::own, {}, 0, true};
+}
+
+inline constexpr MenuEntry menuSeparator{"", "", Command::separator};
+
+constexpr Menu iconMenuOf(std::span<const MenuEntry> entries) {
+    return {"MnuIcon", "", entries};
+}
 
 } // namespace velmoriax::shell

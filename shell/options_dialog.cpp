@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/options_dialog.h"
 
-#include "shell/modules.h"
 #include "shell/option_values.h"
 #include "shell/task_bar_metrics.h"
 
@@ -69,7 +68,7 @@ Option buttonOf(std::string_view value, Option otherwise) {
 /// The place of a text in a table's column; the first entry for every other text.
 template<typename Table, typename Column>
 int entryOf(const Table& table, std::string_view text, Column column) {
-    const auto* found = std::ranges::find(table, text, column);
+    const auto found = std::ranges::find(table, text, column);
     return found == table.end() ? 0 : static_cast<int>(found - table.begin());
 }
 
@@ -86,12 +85,12 @@ bool isCheckBox(Option option) {
 void OptionsDialog::LeerIni(const std::string& lpFileName, std::string_view lpAppName, std::string_view /*lpKeyName*/,
                             std::string_view vDefault) {
     const auto read = [&](std::string_view key) {
-        return orDefault(record_.options.readProfileString(lpAppName, key, lpFileName), vDefault);
+        return orDefault(options_.readProfileString(lpAppName, key, lpFileName), vDefault);
     };
     setChosen(buttonOf(read(key::tirada), O::OptObj));
     setCheck(O::CheckWin, read(key::iniciarConWindows) == "True");
     setCheck(O::CheckMini, read(key::iniciarMinimizado) == "True");
-    setEntry(OptionList::Combolist, entryOf(modules, read(key::moduloInicial), &ModuleRow::initialText));
+    setEntry(OptionList::Combolist, entryOf(modules_, read(key::moduloInicial), &ModuleInfo::initialText));
     setEntry(OptionList::ComboBio, entryOf(alertLevels, read(key::nivelAlertas), &AlertLevel::caption));
     setCheck(O::CheckTooltips, read(key::desactivarTooltips) == "ToolTips off");
     // Only a style that the file spells out leaves the silent mode open. The classic style that stands for a missing
@@ -119,7 +118,7 @@ void OptionsDialog::click(Option option) {
 void OptionsDialog::choose(OptionList list, int entry) {
     state_[list] = entry;
     const auto at = static_cast<std::size_t>(entry);
-    if (list == OptionList::Combolist) return GuardarCombolist(modules.at(at).initialText);
+    if (list == OptionList::Combolist) return GuardarCombolist(modules_.at(at)->initialText);
     const std::string_view text = alertLevels.at(at).caption;
     GuardarCombobio(text);
     holders().alertLevel = alertLevelOfSpanishCaption(text);
@@ -159,7 +158,7 @@ void OptionsDialog::writeOrEraseAutostart() {
 }
 
 void OptionsDialog::setThrow() {
-    record_.oracle.realThrow = state_[O::OptReal].on;
+    holders().realThrow = state_[O::OptReal].on;
 }
 
 void OptionsDialog::enableTooltipControls() {
@@ -173,9 +172,9 @@ void OptionsDialog::allowSilentMode() {
 }
 
 void OptionsDialog::testTaskBar() {
-    getTaskBarMetrics(desktop_.taskBar, record_.shell);
-    bool& atBottom = record_.shell.taskBarAtBottom;
-    atBottom = record_.shell.taskBarLocation == platform::TaskBarPosition::bottomEdge;
+    getTaskBarMetrics(desktop_.taskBar, shellState_);
+    bool& atBottom = shellState_.taskBarAtBottom;
+    atBottom = shellState_.taskBarLocation == platform::TaskBarPosition::bottomEdge;
     if (atBottom) {
         GuardarEstiloTooltips("personal");
         holders().estiloTooltips = "personal";

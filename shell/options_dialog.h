@@ -4,7 +4,9 @@
 #include "platform/autostart.h"
 #include "platform/message_boxes.h"
 #include "platform/task_bar.h"
-#include "shell/process_record.h"
+#include "shell/modules.h"
+#include "shell/options_store.h"
+#include "shell/shell_state.h"
 
 #include <array>
 #include <cstddef>
@@ -66,7 +68,8 @@ public:
         const platform::TaskBar& taskBar;
     };
 
-    OptionsDialog(ProcessRecord& record, Desktop desktop) : record_(record), desktop_(desktop) {}
+    OptionsDialog(OptionsStore& options, ShellState& shellState, Desktop desktop, const ModuleList& modules) :
+        options_(options), shellState_(shellState), desktop_(desktop), modules_(modules) {}
 
     const OptionControls& state() const { return state_; }
 
@@ -82,7 +85,7 @@ public:
     void choose(OptionList list, int entry);
 
     /// The closing button gives the tray tip free; the window's close box does not.
-    void accept() { record_.shell.trayBusy = false; }
+    void accept() { shellState_.trayBusy = false; }
 
     // One routine a key: section, key and file are its own, the value alone is the caller's.
     void GuardarIni(std::string_view lpString) { save(key::tirada, lpString); }
@@ -111,16 +114,18 @@ public:
     void testTaskBar();
 
 private:
-    void save(std::string_view key, std::string_view value) { record_.options.setOption(key, value); }
+    void save(std::string_view key, std::string_view value) { options_.setOption(key, value); }
     void setCheck(Option option, bool on);
     void setChosen(Option option);
     void setEntry(OptionList list, int entry);
     void pressIn(Option option);
     void runHandler(Option option);
-    OptionHolders& holders() { return record_.options.holders; }
+    OptionHolders& holders() { return options_.holders; }
 
-    ProcessRecord& record_;
+    OptionsStore& options_;
+    ShellState& shellState_;
     Desktop desktop_;
+    const ModuleList& modules_;
     OptionControls state_;
 };
 

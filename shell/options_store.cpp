@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/options_store.h"
 
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "shell/option_values.h"
 #include "shell/profile_text.h"
 
@@ -24,16 +24,17 @@ std::string OptionsStore::readProfileString(std::string_view lpAppName, std::str
                                             const std::string& lpFileName) const {
     const auto content = files_.read(lpFileName);
     if (content.status != Status::read) return {};
-    const std::string value = profileValue(content.bytes, base::toWestern(lpAppName), base::toWestern(lpKeyName));
-    return base::fromWestern(value.substr(0, longestValue));
+    const std::string value =
+        profileValue(content.bytes, base::toWindows1252(lpAppName), base::toWindows1252(lpKeyName));
+    return base::fromWindows1252(value.substr(0, longestValue));
 }
 
 int OptionsStore::writeProfileString(std::string_view lpAppName, std::string_view lpKeyName, std::string_view lpString,
                                      const std::string& lpFileName) {
     const auto content = files_.read(lpFileName);
     if (content.status == Status::unreadable) return 0;
-    const std::string changed = withProfileValue(content.bytes, base::toWestern(lpAppName), base::toWestern(lpKeyName),
-                                                 base::toWestern(lpString));
+    const std::string changed = withProfileValue(content.bytes, base::toWindows1252(lpAppName),
+                                                 base::toWindows1252(lpKeyName), base::toWindows1252(lpString));
     return files_.replace(lpFileName, changed) ? 1 : 0;
 }
 
@@ -51,13 +52,16 @@ void OptionsStore::readAtStart() {
     holders.tipocartas = normalisedDeck(leerTipocartas(), holders.tipocartas);
 }
 
-void OptionsStore::readAtModuleLoad(bool ofCardOfDay) {
+void OptionsStore::readAtModuleLoad() {
     holders.tooltips = orDefault(leerTooltips(), "ToolTips on");
     holders.modoSilencioso = orDefault(leerModoSilencioso(), "nomudo");
-    if (ofCardOfDay) holders.muteCod = orDefault(leerMutecod(), "nomuted");
     holders.estiloTooltips = leerEstiloTooltips() == "personal" ? "personal" : "windows xp";
-    if (ofCardOfDay) holders.hemisferio = leerHemisferio() == "Sur" ? "Sur" : "Norte";
     holders.bgSound = orDefault(leerBgSound(), "NoBgSound");
+}
+
+void OptionsStore::readAtCardOfDayLoad() {
+    holders.muteCod = orDefault(leerMutecod(), "nomuted");
+    holders.hemisferio = leerHemisferio() == "Sur" ? "Sur" : "Norte";
 }
 
 const std::string& OptionsStore::readInto(std::string& holder, std::string_view key) {

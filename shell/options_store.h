@@ -54,6 +54,7 @@ struct OptionHolders {
     std::string estiloTooltips; ///< "personal" or "windows xp"
     std::string hemisferio;     ///< "Norte" or "Sur"
     std::string bgSound;        ///< "SiBgSound" or "NoBgSound"
+    bool realThrow = false;     ///< whether the oracle's cards can fall inverted
     std::string perfilBio;
     std::string dibujarSecundario;
     std::string nombreSecundario;
@@ -105,8 +106,11 @@ public:
     /// What the hub reads at start: alert level, minimise target and deck, each in its normalised form.
     void readAtStart();
 
-    /// What a module reads when it loads; `ofCardOfDay` adds the two keys that only that window looks at.
-    void readAtModuleLoad(bool ofCardOfDay);
+    /// What each module reads when it loads.
+    void readAtModuleLoad();
+
+    /// What the Card of the Day alone reads when it loads.
+    void readAtCardOfDayLoad();
 
 private:
     const std::string& readInto(std::string& holder, std::string_view key);

@@ -42,19 +42,19 @@ int notifLeft(const ScreenMeasures& screen, int windowWidth) {
     return screen.left + screen.width - windowWidth - std::max(pixels(notifGapRight), screen.panelRight);
 }
 
-int notifStart(const ScreenMeasures& screen) {
+int notifStartTop(const ScreenMeasures& screen) {
     return screen.top + screen.height;
 }
 
-int notifStanding(const ScreenMeasures& screen, int windowHeight) {
+int notifTop(const ScreenMeasures& screen, int windowHeight) {
     return screen.top + screen.height - windowHeight - std::max(pixels(notifGapBottom), screen.panelBottom);
 }
 
-int notifGone(const ScreenMeasures& screen, int windowHeight) {
+int notifHiddenTop(const ScreenMeasures& screen, int windowHeight) {
     return screen.top + screen.height + windowHeight;
 }
 
-bool personalTipMayStand(const ScreenMeasures& screen, int pointerY, bool taskBarAtBottom) {
+bool personalTipFits(const ScreenMeasures& screen, int pointerY, bool taskBarAtBottom) {
     const double limit = screen.height * twipsPerPixel * 95.0 / 100.0;
     return !taskBarAtBottom || limit < (pointerY - screen.top) * twipsPerPixel;
 }

@@ -33,19 +33,19 @@ NotifSize notifSize(std::size_t characters);
 int notifLeft(const ScreenMeasures& screen, int windowWidth);
 
 /// Where a slide up begins: just under the screen.
-int notifStart(const ScreenMeasures& screen);
+int notifStartTop(const ScreenMeasures& screen);
 
 /// Where a slide up ends. 435 twips (29 pixels) stay free under the window, which is the place of a panel at the
 /// bottom. A thicker panel pushes the window up, so that it stands on the work area; with no panel at the bottom, or a
 /// thinner one, the 29 pixels stay free.
-int notifStanding(const ScreenMeasures& screen, int windowHeight);
+int notifTop(const ScreenMeasures& screen, int windowHeight);
 
 /// Where a slide down ends: a whole window height below the edge of the screen.
-int notifGone(const ScreenMeasures& screen, int windowHeight);
+int notifHiddenTop(const ScreenMeasures& screen, int windowHeight);
 
 /// False when the panel is at the bottom and the pointer, at `pointerY` on the desktop, is above the lowest 5 per cent
 /// of the screen.
-bool personalTipMayStand(const ScreenMeasures& screen, int pointerY, bool taskBarAtBottom);
+bool personalTipFits(const ScreenMeasures& screen, int pointerY, bool taskBarAtBottom);
 
 /// Centred over the pointer, and moved aside as far as it takes to be seen whole, since the icon is often near a
 /// corner, and to leave a panel at the left or right free: over the icon the pointer would take it away at once.

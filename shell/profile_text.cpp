@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/profile_text.h"
 
-#include "base/western_text.h"
+#include "base/windows1252.h"
 
 #include <optional>
 
@@ -18,7 +18,7 @@ std::string_view trim(std::string_view text) {
 }
 
 bool sameName(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && base::lowerWestern(a) == base::lowerWestern(b);
+    return a.size() == b.size() && base::lowerWindows1252(a) == base::lowerWindows1252(b);
 }
 
 std::string_view withoutQuotes(std::string_view value) {

@@ -13,27 +13,27 @@ constexpr std::string_view tipsOff = "ToolTips off";
 
 } // namespace
 
-TipWatch::MoveDeed TipWatch::pointerMoved(std::string_view tooltips, bool mayStart, const ShellState& state) {
+TipWatch::MoveAction TipWatch::pointerMoved(std::string_view tooltips, bool mayStart, const ShellState& state) {
     if (mayStart) watching_ = true;
-    if (state.trayBusy) return MoveDeed::none;
-    if (tooltips == tipsOn) return MoveDeed::measure;
-    return tooltips == tipsOff ? MoveDeed::showName : MoveDeed::none;
+    if (state.trayBusy) return MoveAction::none;
+    if (tooltips == tipsOn) return MoveAction::measure;
+    return tooltips == tipsOff ? MoveAction::showName : MoveAction::none;
 }
 
-TipWatch::TickDeed TipWatch::tick(std::string_view tooltips, bool pointerOnIcon, ShellState& state) {
-    if (!wantsTicks(tooltips)) return TickDeed::none;
+TipWatch::TickAction TipWatch::tick(std::string_view tooltips, bool pointerOnIcon, ShellState& state) {
+    if (!wantsTicks(tooltips)) return TickAction::none;
     // Only five count: a pointer that rests for an hour must not run over the counter's end.
     tipTicks_ = std::min<std::int16_t>(static_cast<std::int16_t>(tipTicks_ + 1), restTicks);
     if (!pointerOnIcon) {
         *this = {};
         state.tipShown = false;
         state.trayBusy = false;
-        return TickDeed::takeAway;
+        return TickAction::takeAway;
     }
-    if (tipTicks_ < restTicks || state.trayBusy || state.tipShown) return TickDeed::none;
+    if (tipTicks_ < restTicks || state.trayBusy || state.tipShown) return TickAction::none;
     tipTicks_ = 0;
     state.trayBusy = true;
-    return TickDeed::raise;
+    return TickAction::raise;
 }
 
 void TipWatch::clicked(ShellState& state) {

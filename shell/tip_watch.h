@@ -15,19 +15,19 @@ class TipWatch {
 public:
     static constexpr int tickMs = 100;
 
-    enum class MoveDeed {
+    enum class MoveAction {
         none,
         measure, ///< ask where the icon and the panel are
         showName ///< tips are off: the system's own tip is to show the program's name
     };
-    enum class TickDeed { none, raise, takeAway };
+    enum class TickAction { none, raise, takeAway };
 
     /// The pointer moved on the icon. `tooltips` is the option's value as read; `mayStart` is false inside a module's
     /// load and while the description of a card stands.
-    MoveDeed pointerMoved(std::string_view tooltips, bool mayStart, const ShellState& state);
+    MoveAction pointerMoved(std::string_view tooltips, bool mayStart, const ShellState& state);
 
     /// A tick of the watch. A tip that is raised is marked as busy here; one that is taken away leaves all at rest.
-    TickDeed tick(std::string_view tooltips, bool pointerOnIcon, ShellState& state);
+    TickAction tick(std::string_view tooltips, bool pointerOnIcon, ShellState& state);
 
     /// A click ends the watch. The icon stays busy after it until the pointer has left, so that the tip does not come
     /// up over what the click has opened.

@@ -9,6 +9,15 @@ namespace {
 
 constexpr std::string_view lineBreak = "\r\n";
 
+std::string joinedLines(TipLineSources sources, base::DateValue now) {
+    std::string text;
+    for (TipLineSource* source : sources) {
+        if (!text.empty()) text += lineBreak;
+        text += source->tipLine(now);
+    }
+    return text;
+}
+
 } // namespace
 
 bool tipKnowsBirthDate(base::CivilDate birth) {
@@ -19,22 +28,15 @@ std::string tipDateLine(base::CivilDate today) {
     return base::shortDateText(today) + " (" + std::string(base::weekdayRuler(base::weekdayOf(today))) + ")";
 }
 
-std::string joinedTipLines(const TipLines& lines) {
-    std::string text = lines.tipCard;
-    for (const std::string* line : {&lines.tipSign, &lines.bioTipText, &lines.tipMoon})
-        text.append(lineBreak).append(*line);
-    return text;
-}
-
-std::string balloonText(base::CivilDate birth, base::CivilDate today, TipSource& source) {
+std::string balloonText(base::CivilDate birth, base::DateValue now, TipLineSources sources) {
     if (!tipKnowsBirthDate(birth)) return std::string(unsetBalloonText);
-    const TipLines lines = source.tipLines();
-    return tipDateLine(today).append(lineBreak) + joinedTipLines(lines);
+    const std::string lines = joinedLines(sources, now);
+    return tipDateLine(base::civilDateOf(now)).append(lineBreak) + lines;
 }
 
-PersonalTip personalTip(base::CivilDate birth, base::CivilDate today, TipSource& source) {
+PersonalTip personalTip(base::CivilDate birth, base::DateValue now, TipLineSources sources) {
     if (!tipKnowsBirthDate(birth)) return {{}, std::string(unsetPersonalText)};
-    return {tipDateLine(today), joinedTipLines(source.tipLines())};
+    return {tipDateLine(base::civilDateOf(now)), joinedLines(sources, now)};
 }
 
 } // namespace velmoriax::shell

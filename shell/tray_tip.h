@@ -2,8 +2,9 @@
 #pragma once
 
 #include "base/date_value.h"
-#include "shell/tip_source.h"
+#include "shell/tip_line_source.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -26,17 +27,18 @@ bool tipKnowsBirthDate(base::CivilDate birth);
 /// The short date with its planet, such as "11/15/2026 (The Sun)".
 std::string tipDateLine(base::CivilDate today);
 
-/// The four lines as one text.
-std::string joinedTipLines(const TipLines& lines);
+/// Who is asked for the lines of the tip, in their order.
+using TipLineSources = std::span<TipLineSource* const>;
 
-/// The balloon: date line and four lines, or the fixed text. The source is asked only for a birth date that is set.
-std::string balloonText(base::CivilDate birth, base::CivilDate today, TipSource& source);
+/// The balloon for the local moment `now`: date line and one line a source, or the fixed text. The sources are asked
+/// only for a birth date that is set.
+std::string balloonText(base::CivilDate birth, base::DateValue now, TipLineSources sources);
 
 /// The personal tooltip. An empty date leaves the label as it was designed.
 struct PersonalTip {
     std::string date;
     std::string lines;
 };
-PersonalTip personalTip(base::CivilDate birth, base::CivilDate today, TipSource& source);
+PersonalTip personalTip(base::CivilDate birth, base::DateValue now, TipLineSources sources);
 
 } // namespace velmoriax::shell

@@ -2,7 +2,7 @@
 #include "sky/ingress_search.h"
 
 #include "base/date_text.h"
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "sky/zodiac_tables.h"
 
 #include <string>
@@ -42,7 +42,7 @@ bool findInTable(std::string_view table, base::DateValue moment, SignStay& stay)
 }
 
 std::string tablePath(const platform::Files& files, std::string_view signFileName) {
-    return files.applicationDirectory() + "\\fechas-db\\" + base::lowerWestern(signFileName) + ".txt";
+    return files.applicationDirectory() + "\\fechas-db\\" + base::lowerWindows1252(signFileName) + ".txt";
 }
 
 } // namespace

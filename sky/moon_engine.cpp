@@ -39,7 +39,7 @@ std::int32_t MoonEngine::lunationOfDate(base::DateValue date) const {
     // Both comparisons are strict. A target that equalled the next new moon to the last bit would turn here for ever;
     // the half second keeps moments of whole seconds away from that.
     while (true) {
-        events_.letRun();
+        events_.processEvents();
         const JulianDay begin = moonPhaseJulianDay(lunation, MoonPhase::newMoon);
         const JulianDay end = moonPhaseJulianDay(lunation + 1, MoonPhase::newMoon);
         if (begin <= target && end > target) return lunation;

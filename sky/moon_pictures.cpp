@@ -32,6 +32,12 @@ bool turnsMoonPicture(std::string_view hemisferio) {
     return hemisferio == "Sur";
 }
 
+base::PictureChoice moonPicture(const platform::Files& files, const std::string& name, std::string_view hemisferio) {
+    constexpr int edge = 4; // of the frame that the picture once had
+    return {files.applicationDirectory() + std::string(moonPictureDirectory) + name, turnsMoonPicture(hemisferio),
+            edge};
+}
+
 std::string drawDayMoon(const MoonEngine& engine, base::DateValue moment, SkyState& state) {
     moonIllumination(moment, state);
     return moonPictureName(engine.moonPhaseAngle(moment), MoonPictureRule::cardOfDay);

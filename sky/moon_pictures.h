@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/picture_choice.h"
+#include "platform/files.h"
 #include "sky/moon_engine.h"
 #include "sky/sky_state.h"
 
@@ -27,6 +29,9 @@ std::int16_t halfPhaseAngle(float angle);
 
 /// True when a moon picture is given a half turn. It is drawn as the north sees the Moon.
 bool turnsMoonPicture(std::string_view hemisferio);
+
+/// A moon picture as the hemisphere sees the Moon: half a turn for the south.
+base::PictureChoice moonPicture(const platform::Files& files, const std::string& name, std::string_view hemisferio);
 
 /// The picture name of a moment in universal time, by the rule of the Card of the Day. Leaves the illumination of the
 /// moment in the record.

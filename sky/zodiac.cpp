@@ -3,7 +3,7 @@
 
 #include "base/date_text.h"
 #include "base/run_time_error.h"
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "sky/ingress_search.h"
 #include "sky/time_zone_shift.h"
 #include "sky/zodiac_tables.h"
@@ -156,7 +156,7 @@ std::string changeOfSignMessageCalendar(const SignReading& form, const platform:
 }
 
 std::string signDescriptionPath(const platform::Files& files, std::int16_t index) {
-    return files.applicationDirectory() + "\\sigtxt\\" + base::lowerWestern(entry(signFileNames, index)) + ".txt";
+    return files.applicationDirectory() + "\\sigtxt\\" + base::lowerWindows1252(entry(signFileNames, index)) + ".txt";
 }
 
 std::string signDescription(const platform::Files& files, std::int16_t index) {
@@ -165,7 +165,7 @@ std::string signDescription(const platform::Files& files, std::int16_t index) {
     const platform::Files::Content content = files.read(path);
     if (content.status == missing) throw base::RunTimeError(base::RunTimeError::Code::fileNotFound, path);
     if (content.status == unreadable) throw base::RunTimeError(base::RunTimeError::Code::pathFileAccess, path);
-    return base::fromWestern(content.bytes);
+    return base::fromWindows1252(content.bytes);
 }
 
 namespace agent {

@@ -16,30 +16,30 @@ void playChosenSong(AmbientSound& sound, const AmbientServices& services) {
 } // namespace
 
 void openMidiDevice(AmbientSound& sound, const std::string& path, const AmbientServices& services) {
-    if (sound.midiDeviceId != 0) services.media.close(sound.midiDeviceId);
+    if (sound.midiDeviceId != 0) services.songs.close(sound.midiDeviceId);
     sound.midiDeviceId = 0;
-    const int opened = services.media.open(path);
-    services.events.letRun();
+    const int opened = services.songs.open(path);
+    services.events.processEvents();
     sound.midiDeviceId = opened;
-    services.media.play(opened);
+    services.songs.play(opened);
     sound.timerOn = true;
 }
 
-void closeAllMidi(AmbientSound& sound, platform::Media& media) {
-    media.closeAll();
+void closeAllMidi(AmbientSound& sound, platform::SongPlayer& songs) {
+    songs.closeAll();
     sound.midiDeviceId = 0;
     sound.timerOn = false;
 }
 
-void tickMidi(const AmbientSound& sound, platform::Media& media) {
-    if (sound.midiDeviceId == 0 || media.mode(sound.midiDeviceId) != platform::Media::Mode::stopped) return;
-    media.rewind(sound.midiDeviceId);
-    media.play(sound.midiDeviceId);
+void tickMidi(const AmbientSound& sound, platform::SongPlayer& songs) {
+    if (sound.midiDeviceId == 0 || songs.mode(sound.midiDeviceId) != platform::SongPlayer::Mode::stopped) return;
+    songs.rewind(sound.midiDeviceId);
+    songs.play(sound.midiDeviceId);
 }
 
-void stopMidi(const AmbientSound& sound, platform::Media& media) {
-    media.stop(sound.midiDeviceId);
-    media.close(sound.midiDeviceId);
+void stopMidi(const AmbientSound& sound, platform::SongPlayer& songs) {
+    songs.stop(sound.midiDeviceId);
+    songs.close(sound.midiDeviceId);
 }
 
 bool startAmbient(AmbientSound& sound, const AmbientServices& services) {
@@ -56,7 +56,7 @@ void switchAmbientOn(AmbientSound& sound, const AmbientServices& services) {
 }
 
 void switchAmbientOff(AmbientSound& sound, const AmbientServices& services) {
-    closeAllMidi(sound, services.media);
+    closeAllMidi(sound, services.songs);
     services.options.setOption(shell::key::soundAmbient, ambientOffWord);
 }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/media.h"
 #include "platform/message_boxes.h"
 #include "platform/pending_events.h"
+#include "platform/song_player.h"
 #include "shell/options_store.h"
 
 #include <string>
@@ -25,7 +25,7 @@ struct AmbientSound {
 
 /// What the ambient sound takes from outside.
 struct AmbientServices {
-    platform::Media& media;
+    platform::SongPlayer& songs;
     platform::PendingEvents& events;
     shell::OptionsStore& options;
     std::string applicationDirectory;
@@ -34,14 +34,14 @@ struct AmbientServices {
 /// Closes the open device, if any, opens a song and plays it. A song that cannot be played leaves silence.
 void openMidiDevice(AmbientSound& sound, const std::string& path, const AmbientServices& services);
 
-void closeAllMidi(AmbientSound& sound, platform::Media& media);
+void closeAllMidi(AmbientSound& sound, platform::SongPlayer& songs);
 
 /// A tick of `TimerMidi`: a song that stands at its end begins again.
-void tickMidi(const AmbientSound& sound, platform::Media& media);
+void tickMidi(const AmbientSound& sound, platform::SongPlayer& songs);
 
 /// The window closes: the song stops. `midiDeviceId` and the timer stay as they are, and the ticks find nothing to do,
 /// so that a window which comes back is silent until its switch is turned off and on.
-void stopMidi(const AmbientSound& sound, platform::Media& media);
+void stopMidi(const AmbientSound& sound, platform::SongPlayer& songs);
 
 /// The sound at the load of the window, by the options. True when the switch stands on, which a song that cannot be
 /// played does not change.

@@ -41,7 +41,6 @@ extern const std::array<SuitWords, 4> suits;
 struct CardState {
     std::int16_t currentCard = 0;                     ///< card that the latest reading or click produced
     std::array<std::string, majorCards> cardTipNames; ///< filled when a card is first needed
-    bool cardDescriptionOpen = false;                 ///< a description box stands: the tray raises no tip over it
 };
 
 /// The picture file of a major card, such as "ermitaño9.jpg". Throws outside 1 to 22, like all these lookups.

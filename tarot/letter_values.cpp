@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tarot/letter_values.h"
 
-#include "base/western_text.h"
+#include "base/windows1252.h"
 
 #include <algorithm>
 #include <array>
@@ -27,7 +27,7 @@ int letterValue(char western) {
 
 int letterSum(std::string_view text) {
     int sum = 0;
-    for (const char letter : base::lowerWestern(base::toWestern(text))) sum += letterValue(letter);
+    for (const char letter : base::lowerWindows1252(base::toWindows1252(text))) sum += letterValue(letter);
     return sum;
 }
 

@@ -42,9 +42,9 @@ std::int16_t orientationByChance(platform::RandomSource& random) {
     return static_cast<std::int16_t>(std::floor(2.0 * random.uniform() + 1.0));
 }
 
-Orientation thrown(OracleState& state, platform::RandomSource& random) {
-    if (!state.realThrow) return Orientation::notThrown;
-    state.cardOrientation = orientationByChance(random);
+Orientation thrown(OracleState& state, const OracleServices& services) {
+    if (!services.options.holders.realThrow) return Orientation::notThrown;
+    state.cardOrientation = orientationByChance(services.random);
     return state.cardOrientation == invertedThrow ? Orientation::inverted : Orientation::normal;
 }
 
@@ -58,14 +58,14 @@ std::int16_t sumdate(base::CivilDate date) {
     return base::toInt16(base::digitSum(base::shortDateText(date)));
 }
 
-void readThrowOption(OracleState& state, const shell::OptionsStore& options) {
+void readThrowOption(shell::OptionsStore& options) {
     const std::string tirada = options.option(shell::key::tirada);
-    state.realThrow = !tirada.empty() && tirada != "objetiva";
+    options.holders.realThrow = !tirada.empty() && tirada != "objetiva";
 }
 
 std::optional<SuitReading> drawSuitCard(Suit suit, std::string_view question, OracleState& state,
                                         const OracleServices& services) {
-    readThrowOption(state, services.options);
+    readThrowOption(services.options);
     state.wordSum = sustituir(question);
     state.finalDrawn = false;
     if (state.wordSum == 0) return std::nullopt;
@@ -75,14 +75,14 @@ std::optional<SuitReading> drawSuitCard(Suit suit, std::string_view question, Or
     DrawnCard drawn = drawnMinor(base::toInt16(state.wordSum + state.dateSum), suit, services.applicationDirectory);
     state.*fieldsOf(suit).card = drawn.card;
     state.currentCardNumber = drawn.card;
-    drawn.orientation = thrown(state, services.random);
+    drawn.orientation = thrown(state, services);
     SuitRecord record{suit, std::string(question), drawn.pictureFile, drawn.orientation};
     return SuitReading{std::move(drawn), std::move(record)};
 }
 
 std::optional<FinalReading> drawFinalCard(std::string_view swordsText, base::DateValue now, OracleState& state,
                                           CardState& cards, const OracleServices& services) {
-    readThrowOption(state, services.options);
+    readThrowOption(services.options);
     state.dateSum = sumdate(state.readingDate);
     return sumapalos(swordsText, now, state, cards, services);
 }
@@ -97,7 +97,7 @@ std::optional<FinalReading> sumapalos(std::string_view swordsText, base::DateVal
     state.globalCard = drawn.card;
     state.currentCardNumber = drawn.card;
     state.finalDrawn = true;
-    drawn.orientation = thrown(state, services.random);
+    drawn.orientation = thrown(state, services);
     FinalRecord record{std::string(swordsText), now, state.readingDate, drawn.pictureFile, drawn.orientation};
     return FinalReading{std::move(drawn), std::move(record)};
 }

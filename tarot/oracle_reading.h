@@ -30,12 +30,11 @@ struct OracleState {
     bool dateChosen = false;
     bool readingStarted = false; ///< a suit has been drawn: the date is frozen until the reset
     bool finalDrawn = false;
-    bool realThrow = false;
 };
 
 /// What a draw takes from outside: the kind of throw and the deck, chance, and where the pictures lie.
 struct OracleServices {
-    const shell::OptionsStore& options;
+    shell::OptionsStore& options;
     platform::RandomSource& random;
     std::string applicationDirectory;
 };
@@ -58,7 +57,7 @@ std::int16_t sustituir(std::string_view text);
 std::int16_t sumdate(base::CivilDate date);
 
 /// Sets `realThrow`: true for any value of the option that is neither "objetiva" nor empty.
-void readThrowOption(OracleState& state, const shell::OptionsStore& options);
+void readThrowOption(shell::OptionsStore& options);
 
 /// One suit's draw. Nothing when the question counts 0: then no card changes, but the final card is no longer open.
 std::optional<SuitReading> drawSuitCard(Suit suit, std::string_view question, OracleState& state,

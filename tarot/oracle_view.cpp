@@ -2,7 +2,7 @@
 #include "tarot/oracle_view.h"
 
 #include "base/run_time_error.h"
-#include "base/western_text.h"
+#include "base/windows1252.h"
 
 namespace velmoriax::tarot {
 
@@ -25,7 +25,7 @@ std::string cardText(const platform::Files& files, const std::string& path) {
     const auto content = files.read(path);
     if (content.status != platform::Files::Status::read)
         throw base::RunTimeError(base::RunTimeError::Code::fileNotFound, path);
-    return base::fromWestern(content.bytes);
+    return base::fromWindows1252(content.bytes);
 }
 
 std::string spokenName(Suit suit, int index) {

@@ -2,7 +2,7 @@
 #include "tarot/result_logs.h"
 
 #include "base/date_text.h"
-#include "base/western_text.h"
+#include "base/windows1252.h"
 
 #include <vector>
 
@@ -67,7 +67,7 @@ std::string pathOf(const ResultLog& log, const platform::Files& files) {
 
 void append(platform::Files& files, const ResultLog& log, const Lines& lines) {
     std::string bytes;
-    for (const std::string& line : lines) bytes.append(base::toWestern(line)).append(lineEnd);
+    for (const std::string& line : lines) bytes.append(base::toWindows1252(line)).append(lineEnd);
     files.append(pathOf(log, files), bytes);
 }
 

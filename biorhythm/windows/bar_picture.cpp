@@ -3,8 +3,8 @@
 
 #include "biorhythm/bio_chart.h"
 #include "biorhythm/windows/bio_colours.h"
-#include "biorhythm/windows/qt_values.h"
-#include "shell/windows/look.h"
+#include "widgets/conversions.h"
+#include "widgets/look.h"
 
 #include <QPainter>
 
@@ -49,7 +49,7 @@ QRectF BarPicture::field() const {
 void BarPicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(shell::look::panel());
+    painter.setPen(widgets::look::panel());
     painter.setBrush(plotGround());
     painter.drawRoundedRect(field(), 4, 4);
     paintBars(painter);
@@ -59,7 +59,7 @@ void BarPicture::paintEvent(QPaintEvent*) {
 void BarPicture::paintScale(QPainter& painter) const {
     const QRectF frame = field();
     const double line = QFontMetrics(font()).height();
-    painter.setPen(shell::look::quietText());
+    painter.setPen(widgets::look::quietText());
     const QRectF side(0, frame.top(), frame.left() - 6, frame.height());
     painter.drawText(side, Qt::AlignRight | Qt::AlignTop, QStringLiteral("100"));
     painter.drawText(side, Qt::AlignRight | Qt::AlignBottom, QStringLiteral("-100"));
@@ -67,7 +67,7 @@ void BarPicture::paintScale(QPainter& painter) const {
         const double middle = at(frame, (barTable[i].xFrom + barTable[i].xTo) / 2, -1).x();
         painter.setPen(colourOf(barTable[i].colour));
         painter.drawText(QRectF(middle - 4 * line, frame.bottom() + 3, 8 * line, line), Qt::AlignCenter,
-                         qtText(cycleTable[i].shortName));
+                         widgets::qtText(cycleTable[i].shortName));
     }
     painter.setPen(Qt::white);
     for (const BarPictureLine& white : barPictureLines)

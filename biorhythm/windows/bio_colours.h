@@ -7,7 +7,7 @@
 
 namespace velmoriax::biorhythm {
 
-inline QColor colourOf(Colour colour) {
+inline QColor colourOf(base::Colour colour) {
     return {colour.red, colour.green, colour.blue};
 }
 

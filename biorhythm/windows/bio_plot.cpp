@@ -3,6 +3,7 @@
 
 #include "base/run_time_error.h"
 #include "biorhythm/chart_text.h"
+#include "widgets/conversions.h"
 
 #include <QAccessibleWidget>
 #include <QLibrary>
@@ -20,7 +21,7 @@ public:
 
     QString text(QAccessible::Text kind) const override {
         if (kind != QAccessible::Description) return QAccessibleWidget::text(kind);
-        return QString::fromStdString(chartText(static_cast<BioPlot*>(widget())->chart()));
+        return widgets::qtText(chartText(static_cast<BioPlot*>(widget())->chart()));
     }
 };
 
@@ -31,11 +32,10 @@ QAccessibleInterface* spokenPlot(const QString&, QObject* object) {
 
 } // namespace
 
-PlotDrawing& loadPlotDrawing(const std::string& libraryFolder, QWidget& parent) {
+PlotDrawing& loadPlotDrawing(const std::string& pluginFolder, QWidget& parent) {
     using Maker = PlotDrawing*(QWidget*);
-    const std::string library = libraryFolder + "/velmoriax_chart.so";
-    const auto make =
-        reinterpret_cast<Maker*>(QLibrary::resolve(QString::fromStdString(library), "velmoriaxPlotDrawing"));
+    const std::string library = pluginFolder + "/velmoriax_chart.so";
+    const auto make = reinterpret_cast<Maker*>(QLibrary::resolve(widgets::qtText(library), "velmoriaxPlotDrawing"));
     if (!make) throw base::RunTimeError(base::RunTimeError::Code::fileNotFound, library);
     return *make(&parent);
 }

@@ -3,7 +3,7 @@
 #include "biorhythm/windows/cycle_graph.h"
 
 #include "biorhythm/windows/bio_colours.h"
-#include "biorhythm/windows/qt_values.h"
+#include "widgets/conversions.h"
 
 namespace velmoriax::biorhythm {
 
@@ -28,11 +28,11 @@ std::array<int, 2> badgeRows(std::size_t series) {
 } // namespace
 
 CycleGraph::CycleGraph(QCPAxis& keyAxis, QCPAxis& valueAxis, std::size_t series) :
-    QCPGraph(&keyAxis, &valueAxis), series_(series), badge_(qtText(cycleTable[series % cycleCount].shortName)),
+    QCPGraph(&keyAxis, &valueAxis), series_(series), badge_(widgets::qtText(cycleTable[series % cycleCount].shortName)),
     badgeFont_(keyAxis.tickLabelFont()) {
     const SeriesLook& look = seriesTable[series];
     const QColor colour = colourOf(look.colour);
-    setName(qtText(look.legend));
+    setName(widgets::qtText(look.legend));
     setPen(QPen(colour, look.width * pixelsOfUnit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     rim_ = QPen(rimColour(colour, !isSecond()), pen().widthF() + rimWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     if (isSecond()) badge_ += u'2';

@@ -13,7 +13,7 @@ class FormMod;
 
 namespace velmoriax::biorhythm {
 
-class FrmProfiles;
+class ProfileList;
 
 /// Edits the record that is chosen in the list of profiles. The copy of the list without it is made when the window
 /// loads and takes the list's place on "Submit"; "Cancel" leaves the copy among the temporary files. No other window
@@ -22,13 +22,15 @@ class FormMod : public shell::SecondaryWindow {
     Q_OBJECT
 
 public:
-    explicit FormMod(shell::Process& process);
+    static constexpr std::string_view windowName = "FormMod";
+
+    explicit FormMod(shell::WindowContext& context);
     ~FormMod() override;
 
     void load() override;
 
 private:
-    FrmProfiles* list() const;
+    ProfileList* list() const;
     void showRecord(const std::string& line);
     void submit();
 

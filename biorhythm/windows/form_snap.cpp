@@ -2,7 +2,8 @@
 #include "biorhythm/windows/form_snap.h"
 
 #include "biorhythm/bio_texts.h"
-#include "biorhythm/windows/frm_bio.h"
+#include "biorhythm/windows/profile_view.h"
+#include "shell/windows/window_registry.h"
 
 #include <QPixmap>
 
@@ -14,7 +15,7 @@ constexpr int snapQuality = 88; ///< of 100
 
 } // namespace
 
-FormSnap::FormSnap(shell::Process& process) : SecondaryWindow(process) {
+FormSnap::FormSnap(shell::WindowContext& context) : SecondaryWindow(context) {
     setObjectName(QStringLiteral("FormSnap"));
     setWindowTitle(QStringLiteral("Mi snap"));
 }
@@ -25,8 +26,8 @@ std::string FormSnap::pathOf(const char* name) const {
 
 /// The view in the pixels of its screen.
 QImage FormSnap::capture() const {
-    frmBio* view = frmBio::loadedIn(process());
-    return view ? view->grab().toImage().convertToFormat(QImage::Format_RGB32) : QImage();
+    ProfileView* view = windows().loaded<ProfileView>();
+    return view ? view->picture() : QImage();
 }
 
 void FormSnap::load() {

@@ -12,7 +12,9 @@ class FormSnap : public shell::SecondaryWindow {
     Q_OBJECT
 
 public:
-    explicit FormSnap(shell::Process& process);
+    static constexpr std::string_view windowName = "FormSnap";
+
+    explicit FormSnap(shell::WindowContext& context);
 
     void load() override;
 

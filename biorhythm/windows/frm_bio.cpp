@@ -4,19 +4,23 @@
 #include "base/date_text.h"
 #include "biorhythm/bio_chart.h"
 #include "biorhythm/bio_texts.h"
+#include "biorhythm/modules.h"
 #include "biorhythm/profile_files.h"
 #include "biorhythm/profile_store.h"
 #include "biorhythm/stepper_dates.h"
 #include "biorhythm/windows/bio_colours.h"
-#include "biorhythm/windows/date_steppers.h"
+#include "biorhythm/windows/date_spin_boxes.h"
+#include "biorhythm/windows/form_mod.h"
+#include "biorhythm/windows/form_snap.h"
+#include "biorhythm/windows/frm_compa_tab.h"
 #include "biorhythm/windows/frm_profiles.h"
-#include "biorhythm/windows/qt_values.h"
 #include "biorhythm/windows/reading_arrows.h"
-#include "shell/windows/look.h"
 #include "shell/windows/notifications.h"
 #include "shell/windows/secondary_window.h"
 #include "shell/windows/window_registry.h"
 #include "ui_frm_bio.h"
+#include "widgets/conversions.h"
+#include "widgets/look.h"
 
 #include <algorithm>
 
@@ -56,14 +60,14 @@ std::array<CycleRow, cycleCount> cycleRows(const Ui::frmBio& ui) {
 
 } // namespace
 
-frmBio::frmBio(shell::Process& process) :
-    ModuleWindow(process, shell::Module::biorhythms), ui_(std::make_unique<Ui::frmBio>()) {
+frmBio::frmBio(shell::WindowContext& context, BiorhythmState& biorhythms) :
+    ModuleWindow(context, biorhythmsModule), biorhythms_(biorhythms), ui_(std::make_unique<Ui::frmBio>()) {
     openPictures();
     ui_->setupUi(this);
-    birthSteppers_ = std::make_unique<DateSteppers>(*ui_->vsbDayBirth, *ui_->vsbMonthBirth, *ui_->vsbYearBirth);
-    readingSteppers_ = std::make_unique<DateSteppers>(*ui_->vsbDayBio, *ui_->vsbMonthBio, *ui_->vsbYearBio);
+    birthBoxes_ = std::make_unique<DateSpinBoxes>(*ui_->vsbDayBirth, *ui_->vsbMonthBirth, *ui_->vsbYearBirth);
+    readingBoxes_ = std::make_unique<DateSpinBoxes>(*ui_->vsbDayBio, *ui_->vsbMonthBio, *ui_->vsbYearBio);
     arrows_ = new ReadingArrows(*ui_->CmdArrowLeft, *ui_->CmdArrowRight);
-    dress();
+    setUpControls();
     buildNavigation();
     connectSteppers();
     connectTimeOfBirth();
@@ -73,14 +77,8 @@ frmBio::frmBio(shell::Process& process) :
 
 frmBio::~frmBio() = default;
 
-frmBio* frmBio::loadedIn(const shell::Process& process) {
-    for (shell::ModuleWindow* window : process.windows.loadedModules())
-        if (auto* view = qobject_cast<frmBio*>(window)) return view;
-    return nullptr;
-}
-
-void frmBio::dress() {
-    ui_->MSChart1->takeDrawing(loadPlotDrawing(desktop().libraryFolder, *ui_->MSChart1));
+void frmBio::setUpControls() {
+    ui_->MSChart1->takeDrawing(loadPlotDrawing(desktop().pluginFolder, *ui_->MSChart1));
     const auto rows = cycleRows(*ui_);
     for (std::size_t i = 0; i < cycleCount; ++i) {
         setColour(*rows[i].name, colourOf(barTable[i].colour));
@@ -93,17 +91,17 @@ void frmBio::dress() {
     ui_->CmdArrowRight->setIcon(QIcon(QStringLiteral(":/look/pictures/arrow_right-24.png")));
     ui_->CmdAlert->setIcon(QIcon(QStringLiteral(":/bio/alert.png")));
     for (QLabel* label : {ui_->LabelGetTime, ui_->LabelLived, ui_->LabelRest, ui_->LabelAvg})
-        shell::look::asQuiet(*label);
-    openPicker(*ui_->DTPicker1);
+        widgets::look::asQuiet(*label);
+    widgets::openPicker(*ui_->DTPicker1);
 }
 
 void frmBio::connectSteppers() {
-    birthSteppers_->changed = [this](base::CivilDate date) {
+    birthBoxes_->changed = [this](base::CivilDate date) {
         view().manualDate = false;
         view().birth.date = date;
         calcBio();
     };
-    readingSteppers_->changed = [this](base::CivilDate date) {
+    readingBoxes_->changed = [this](base::CivilDate date) {
         view().manualDate = true;
         view().reading = date;
         calcBio();
@@ -116,11 +114,11 @@ void frmBio::connectSteppers() {
 }
 
 void frmBio::connectTimeOfBirth() {
-    connect(ui_->VScrollHora, &Stepper::valueChanged, this, [this](int hour) {
+    connect(ui_->VScrollHora, &widgets::SpinBox::valueChanged, this, [this](int hour) {
         view().birth.time.hour = hour;
         calcBio();
     });
-    connect(ui_->VScrollMinuto, &Stepper::valueChanged, this, [this](int minute) {
+    connect(ui_->VScrollMinuto, &widgets::SpinBox::valueChanged, this, [this](int minute) {
         view().birth.time.minute = minute;
         calcBio();
     });
@@ -150,55 +148,55 @@ void frmBio::connectProfiles() {
 
 void frmBio::ownLoad() {
     auto& files = desktop().files;
-    loadBioView(files, record().bio, view(), base::civilDateOf(desktop().clock.now()));
+    loadBioView(files, biorhythms_.bio, view(), base::civilDateOf(desktop().clock.now()));
     const QSignalBlocker quiet(ui_->DTPicker1);
-    ui_->DTPicker1->setDate(qtDate(view().target));
+    ui_->DTPicker1->setDate(widgets::qtDate(view().target));
     showBirth();
     createProfileList(files);
     const auto names = biorhythm::profileNames(files);
-    fillProfiles(names, selectedAtLoad(names, record().options.leerPerfilBio()));
-    readSecondProfile(files, record().options, record().second);
+    fillProfiles(names, selectedAtLoad(names, options().leerPerfilBio()));
+    readSecondProfile(files, options(), biorhythms_.second);
     showSecondAtLoad();
     calcBio();
 }
 
 void frmBio::showSecondAtLoad() {
-    const SecondProfile& second = record().second;
+    const SecondProfile& second = biorhythms_.second;
     const bool drawn = second.drawSecondFlag && !second.profileSecondName.empty();
-    if (drawn) return showSecondName(qtText(second.profileSecondName));
+    if (drawn) return showSecondName(widgets::qtText(second.profileSecondName));
     hideSecondName();
 }
 
 void frmBio::showBirth() {
-    birthSteppers_->show(view().birth.date);
+    birthBoxes_->show(view().birth.date);
     ui_->VScrollHora->showValue(view().birth.time.hour);
     ui_->VScrollMinuto->showValue(view().birth.time.minute);
-    ui_->LabelHoraBirth->setText(QString::fromStdString(birthTimeCaption(view().birth.time)));
+    ui_->LabelHoraBirth->setText(widgets::qtText(birthTimeCaption(view().birth.time)));
 }
 
 void frmBio::calcBio() {
-    const BioShown shown = biorhythm::calcBio(record().bio, view(), desktop().clock.now());
-    readingSteppers_->show(view().reading);
+    const BioShown shown = biorhythm::calcBio(biorhythms_.bio, view(), desktop().clock.now());
+    readingBoxes_->show(view().reading);
     show(shown);
     mschart();
 }
 
 void frmBio::show(const BioShown& shown) {
-    ui_->lblDays->setText(QString::fromStdString(shown.livedDays));
+    ui_->lblDays->setText(widgets::qtText(shown.livedDays));
     ui_->LblRest->setNum(shown.remainingDays);
-    ui_->LabelMedia->setText(QString::fromStdString(shown.average));
+    ui_->LabelMedia->setText(widgets::qtText(shown.average));
     setColour(*ui_->LabelMedia, colourOf(shown.averageColour));
-    ui_->LabelGetTime->setText(QString::fromStdString(shown.time));
+    ui_->LabelGetTime->setText(widgets::qtText(shown.time));
     const auto rows = cycleRows(*ui_);
     CycleValues bars{};
     for (std::size_t i = 0; i < cycleCount; ++i) {
         const CycleShown& cycle = shown.cycles[i];
         bars[i] = cycle.bar;
-        rows[i].value->setText(QString::fromStdString(cycle.caption));
+        rows[i].value->setText(widgets::qtText(cycle.caption));
         setColour(*rows[i].value, colourOf(cycle.colour));
-        if (cycle.trend == Trend::level) continue;
-        rows[i].up->setVisible(cycle.trend == Trend::rising);
-        rows[i].down->setVisible(cycle.trend == Trend::falling);
+        if (cycle.trend == shell::Trend::level) continue;
+        rows[i].up->setVisible(cycle.trend == shell::Trend::rising);
+        rows[i].down->setVisible(cycle.trend == shell::Trend::falling);
     }
     ui_->PicBio->setBars(bars);
 }
@@ -206,8 +204,8 @@ void frmBio::show(const BioShown& shown) {
 void frmBio::mschart() {
     const auto profiles = static_cast<std::size_t>(ui_->ComboProfiles->count());
     const base::CivilTime clock = base::civilTimeOf(desktop().clock.now());
-    SecondProfile& second = record().second;
-    ui_->MSChart1->showChart(biorhythm::mschart(record().bio.lived, second, profiles, view().reading, clock));
+    SecondProfile& second = biorhythms_.second;
+    ui_->MSChart1->showChart(biorhythm::mschart(biorhythms_.bio.lived, second, profiles, view().reading, clock));
     if (!drawsSecond(second, profiles)) hideSecondName();
 }
 
@@ -223,12 +221,12 @@ QStringList frmBio::profileNames() const {
 
 void frmBio::listProfilesAnew() {
     const auto names = biorhythm::profileNames(desktop().files);
-    fillProfiles(names, selectedAfterEdit(names, record().options.leerPerfilBio()));
+    fillProfiles(names, selectedAfterEdit(names, options().leerPerfilBio()));
 }
 
 void frmBio::fillProfiles(const std::vector<std::string>& names, std::optional<std::size_t> selected) {
     QStringList texts;
-    for (const std::string& name : names) texts << qtText(name);
+    for (const std::string& name : names) texts << widgets::qtText(name);
     ui_->ComboProfiles->clear();
     ui_->ComboProfiles->addItems(texts);
     shownProfile_ = selected ? static_cast<int>(*selected) : -1;
@@ -261,14 +259,14 @@ void frmBio::takeTimeOfBirth() {
     const bool hadFocus = ui_->CommandOk->hasFocus();
     showTimeControls(false);
     if (hadFocus) ui_->XPButtonHora->setFocus();
-    saveBirthTime(desktop().files, record().bio, view().birth.time);
-    ui_->LabelHoraBirth->setText(QString::fromStdString(birthTimeCaption(view().birth.time)));
+    saveBirthTime(desktop().files, biorhythms_.bio, view().birth.time);
+    ui_->LabelHoraBirth->setText(widgets::qtText(birthTimeCaption(view().birth.time)));
 }
 
 /// Until the next calculation the days are counted from today, and only then from the date of reading.
 void frmBio::takeTarget() {
-    view().target = civilDate(ui_->DTPicker1->date());
-    setFinalDate(record().bio, view().target);
+    view().target = widgets::civilDate(ui_->DTPicker1->date());
+    setFinalDate(biorhythms_.bio, view().target);
     ui_->LblRest->setNum(base::daysBetween(base::civilDateOf(desktop().clock.now()), view().target));
 }
 
@@ -292,7 +290,7 @@ void frmBio::hideEvent(QHideEvent* event) {
 
 void frmBio::pickProfile() {
     const std::string name = mainName().toStdString();
-    if (!biorhythm::pickProfile(desktop().files, record().options, record().bio, view(), name))
+    if (!biorhythm::pickProfile(desktop().files, options(), biorhythms_.bio, view(), name))
         return ui_->ComboProfiles->setCurrentIndex(shownProfile_);
     shownProfile_ = ui_->ComboProfiles->currentIndex();
     showBirth();
@@ -302,17 +300,16 @@ void frmBio::pickProfile() {
 
 void frmBio::saveProfile() {
     const std::string time = ui_->LabelHoraBirth->text().mid(timeCaptionHead).toStdString();
-    const auto name =
-        biorhythm::saveProfile(desktop().files, desktop().boxes, record().options, view().birth.date, time);
+    const auto name = biorhythm::saveProfile(desktop().files, desktop().boxes, options(), view().birth.date, time);
     if (!name) return;
-    ui_->ComboProfiles->addItem(qtText(*name));
+    ui_->ComboProfiles->addItem(widgets::qtText(*name));
     shownProfile_ = ui_->ComboProfiles->count() - 1;
     ui_->ComboProfiles->setCurrentIndex(shownProfile_);
     ui_->ComboProfiles->show();
 }
 
 void frmBio::editProfiles() {
-    auto& list = static_cast<FrmProfiles&>(process().windows.touch("FrmProfiles", process()));
+    auto& list = windows().touch<FrmProfiles>();
     list.ListaPerfiles(); // it may stand open from before
     list.showNormalState();
 }
@@ -321,30 +318,30 @@ void frmBio::compareProfiles() {
     if (ui_->ComboProfiles->count() < 2)
         return desktop().boxes.show(platform::BoxIcon::warning, std::string(text::tooFewProfiles),
                                     std::string(text::errorInfoTitle));
-    process().windows.touch("FrmCompaTab", process()).showNormalState();
+    windows().touch<FrmCompaTab>().showNormalState();
 }
 
 void frmBio::takeSnapshot() {
-    process().windows.touch("FormSnap", process());
-    process().windows.unload("FormSnap");
+    windows().touch<FormSnap>();
+    windows().unload(FormSnap::windowName);
 }
 
 void frmBio::notify(const std::function<void(const AlertOutlets&)>& tell) {
-    shell::closeNotification(process());
-    if (process().notification) tell({*process().notification, desktop().sounds});
+    shell::closeNotification(context());
+    if (context().notification) tell({*context().notification, desktop().sounds});
 }
 
 void frmBio::alertByHand() {
-    record().alerts.manualAlert = true;
+    biorhythms_.alerts.manualAlert = true;
     notify([this](const AlertOutlets& outlets) {
         const AlertMoment moment{desktop().clock.now(), view().reading};
-        biorhythm::alertByHand(record().alerts, record().bio, record().options.holders.alertLevel, moment, outlets);
+        biorhythm::alertByHand(biorhythms_.alerts, biorhythms_.bio, options().holders.alertLevel, moment, outlets);
     });
 }
 
 void frmBio::showHelp() {
-    if (!helpIsDue(record().alerts, record().bio)) return;
-    notify([this](const AlertOutlets& outlets) { showHelpLines(record().alerts, outlets); });
+    if (!helpIsDue(biorhythms_.alerts, biorhythms_.bio)) return;
+    notify([this](const AlertOutlets& outlets) { showHelpLines(biorhythms_.alerts, outlets); });
 }
 
 bool frmBio::event(QEvent* event) {
@@ -354,30 +351,30 @@ bool frmBio::event(QEvent* event) {
 }
 
 void frmBio::onMinimised(bool toSystray) {
-    if (toSystray) shell::closeNotification(process());
+    if (toSystray) shell::closeNotification(context());
 }
 
 /// What was set stands in the files as soon as the window is out of sight: tip and alerts count with it.
 void frmBio::onHidden() {
-    saveBioState(desktop().files, record().bio, view().birth, view().target);
+    saveBioState(desktop().files, biorhythms_.bio, view().birth, view().target);
 }
 
 void frmBio::onUnload() {
     unloadBeside();
-    record().alerts.welcomeShown = false;
-    record().alerts.manualAlert = false;
-    saveBioState(desktop().files, record().bio, view().birth, view().target);
+    biorhythms_.alerts.welcomeShown = false;
+    biorhythms_.alerts.manualAlert = false;
+    saveBioState(desktop().files, biorhythms_.bio, view().birth, view().target);
 }
 
 /// The windows that work on this one go with it. While they stood the next module could not add its icon; a hidden
 /// program would be out of reach.
 void frmBio::unloadBeside() {
-    const bool heldIconBack = record().shell.noTrayAdd;
-    for (const char* name : {"FormMod", "FrmProfiles", "FrmCompaTab"}) process().windows.unload(name);
-    shell::ModuleWindow* next = process().windows.loadedModule();
-    if (!heldIconBack || record().shell.closingAll || next == this || !next) return;
-    const bool tooltipsOff = record().options.holders.tooltips == "ToolTips off";
-    next->ctxSysTray1().AddIconToSystray(tooltipsOff ? shell::programName : std::string_view{});
+    const bool heldIconBack = state().noTrayAdd;
+    for (const auto name : {FormMod::windowName, FrmProfiles::windowName, FrmCompaTab::windowName})
+        windows().unload(name);
+    shell::ModuleWindow* next = ModuleWindow::loadedIn(windows());
+    if (!heldIconBack || state().closingAll || next == this || !next) return;
+    next->addTrayIcon();
 }
 
 } // namespace velmoriax::biorhythm

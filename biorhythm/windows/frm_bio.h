@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "biorhythm/alert_engine.h"
-#include "biorhythm/bio_view.h"
+#include "biorhythm/biorhythm_state.h"
+#include "biorhythm/windows/profile_view.h"
 #include "shell/windows/module_window.h"
 
 #include <QTimer>
@@ -16,38 +16,30 @@ class frmBio;
 
 namespace velmoriax::biorhythm {
 
-class DateSteppers;
+class DateSpinBoxes;
 class ReadingArrows;
 
 /// The Biorhythm view: birth, time of birth and date of reading on steppers; the four cycles as numbers, bars and
 /// chart.
-class frmBio : public shell::ModuleWindow {
+class frmBio : public shell::ModuleWindow, public ProfileView {
     Q_OBJECT
 
 public:
-    explicit frmBio(shell::Process& process);
-    ~frmBio() override;
+    using ProfileView::windowName;
 
-    /// The view, while it is loaded.
-    static frmBio* loadedIn(const shell::Process& process);
+    frmBio(shell::WindowContext& context, BiorhythmState& biorhythms);
+    ~frmBio() override;
 
     /// Computes everything and shows it, the chart included.
     void calcBio();
 
-    /// Draws the chart alone, for the age that was computed last.
-    void mschart();
-
-    // What the windows beside the view see and change of it.
-
-    /// The text of the profile list: the main profile's name.
-    QString mainName() const;
-    QStringList profileNames() const;
-
-    /// Fills the profile list anew after the file was edited. The person shown stays.
-    void listProfilesAnew();
-
-    void showSecondName(const QString& name);
-    void hideSecondName();
+    QString mainName() const override;
+    QStringList profileNames() const override;
+    void listProfilesAnew() override;
+    void showSecondName(const QString& name) override;
+    void hideSecondName() override;
+    void mschart() override;
+    QImage picture() override { return grab().toImage().convertToFormat(QImage::Format_RGB32); }
 
 protected:
     void ownLoad() override;
@@ -58,9 +50,9 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    BioViewState& view() const { return record().bioView; }
+    BioViewState& view() const { return biorhythms_.view; }
 
-    void dress();
+    void setUpControls();
     void connectSteppers();
     void connectTimeOfBirth();
     void connectReading();
@@ -88,9 +80,10 @@ private:
     void notify(const std::function<void(const AlertOutlets&)>& tell);
     void unloadBeside();
 
+    BiorhythmState& biorhythms_;
     std::unique_ptr<Ui::frmBio> ui_;
-    std::unique_ptr<DateSteppers> birthSteppers_;
-    std::unique_ptr<DateSteppers> readingSteppers_;
+    std::unique_ptr<DateSpinBoxes> birthBoxes_;
+    std::unique_ptr<DateSpinBoxes> readingBoxes_;
     ReadingArrows* arrows_;
     QTimer TimerBio_{this};
     int shownProfile_ = -1; ///< the entry of the profile list that was chosen last

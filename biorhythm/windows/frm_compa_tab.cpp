@@ -3,17 +3,19 @@
 
 #include "biorhythm/bio_texts.h"
 #include "biorhythm/windows/bio_colours.h"
-#include "biorhythm/windows/frm_bio.h"
-#include "biorhythm/windows/qt_values.h"
-#include "shell/windows/look.h"
+#include "biorhythm/windows/profile_view.h"
+#include "shell/windows/window_registry.h"
 #include "ui_frm_compa_tab.h"
+#include "widgets/conversions.h"
+#include "widgets/look.h"
 
 namespace velmoriax::biorhythm {
 
-FrmCompaTab::FrmCompaTab(shell::Process& process) : SecondaryWindow(process), ui_(std::make_unique<Ui::FrmCompaTab>()) {
+FrmCompaTab::FrmCompaTab(shell::WindowContext& context, BiorhythmState& biorhythms) :
+    SecondaryWindow(context), biorhythms_(biorhythms), ui_(std::make_unique<Ui::FrmCompaTab>()) {
     ui_->setupUi(this);
     for (const char* caption : {"Actual", "General", "Exit"}) ui_->SSTab1->addTab(QString::fromLatin1(caption));
-    shell::look::asTitle(*ui_->LabelProMain);
+    widgets::look::asTitle(*ui_->LabelProMain);
     showLabels(firstCompatibilityLabels());
     connect(ui_->ListProfiles, &QListWidget::itemClicked, this, &FrmCompaTab::chooseProfile);
     connect(ui_->ListProfiles, &QListWidget::itemSelectionChanged, this, [this] {
@@ -26,22 +28,22 @@ FrmCompaTab::FrmCompaTab(shell::Process& process) : SecondaryWindow(process), ui
 
 FrmCompaTab::~FrmCompaTab() = default;
 
-frmBio& FrmCompaTab::view() const {
-    return *frmBio::loadedIn(process());
+ProfileView& FrmCompaTab::view() const {
+    return *windows().loaded<ProfileView>();
 }
 
 void FrmCompaTab::load() {
-    record().shell.noTrayAdd = true;
-    standOverModule();
+    state().noTrayAdd = true;
+    centreOverModule();
     ui_->LabelProMain->setText(QStringLiteral("Main profile: ") + view().mainName());
     {
         const QSignalBlocker quiet(ui_->ListProfiles);
         ui_->ListProfiles->addItems(view().profileNames());
     }
     const QSignalBlocker quiet(ui_->CheckPlot);
-    ui_->CheckPlot->setChecked(record().options.leerDibujarSecundario() == "1");
-    takeMainCycles(compatibility_, record().bio.cycle);
-    const QString stored = qtText(record().options.leerNombreSecundario());
+    ui_->CheckPlot->setChecked(options().leerDibujarSecundario() == "1");
+    takeMainCycles(compatibility_, biorhythms_.bio.cycle);
+    const QString stored = widgets::qtText(options().leerNombreSecundario());
     const auto found = ui_->ListProfiles->findItems(stored, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (found.isEmpty()) return;
     {
@@ -52,7 +54,7 @@ void FrmCompaTab::load() {
 }
 
 void FrmCompaTab::onUnload() {
-    record().shell.noTrayAdd = false;
+    state().noTrayAdd = false;
 }
 
 QString FrmCompaTab::chosenName() const {
@@ -71,10 +73,10 @@ void FrmCompaTab::chooseProfile() {
         return desktop().boxes.show(platform::BoxIcon::warning, std::string(text::sameProfile),
                                     std::string(text::errorInfoTitle));
     const std::string name = chosenName().toStdString();
-    const bool readable = loadSecondProfile(desktop().files, name, record().second);
+    const bool readable = loadSecondProfile(desktop().files, name, biorhythms_.second);
     if (!readable) return showResults(false); // nobody's figures are to stand under this name
     compare();
-    storeSecondName(record().options, record().second, name);
+    storeSecondName(options(), biorhythms_.second, name);
     if (ui_->CheckPlot->isChecked())
         view().showSecondName(chosenName());
     else
@@ -90,8 +92,8 @@ void FrmCompaTab::showResults(bool visible) {
 }
 
 void FrmCompaTab::compare() {
-    SecondProfile& second = record().second;
-    const BioViewState& shown = record().bioView;
+    SecondProfile& second = biorhythms_.second;
+    const BioViewState& shown = biorhythms_.view;
     const base::CivilTime clock = base::civilTimeOf(desktop().clock.now());
     showLabels(ui_->SSTab1->currentIndex() == actualTab
                    ? showActual(compatibility_, second, shown.reading, clock)
@@ -100,8 +102,8 @@ void FrmCompaTab::compare() {
 
 void FrmCompaTab::showLabels(const CompatibilityLabels& labels) {
     const std::array<QLabel*, cycleCount> cycles{ui_->LabelFis, ui_->LabelEmo, ui_->LabelInte, ui_->LabelIntu};
-    for (std::size_t i = 0; i < cycleCount; ++i) cycles[i]->setText(QString::fromStdString(labels.cycles[i]));
-    ui_->LabelMedia->setText(QString::fromStdString(labels.mean));
+    for (std::size_t i = 0; i < cycleCount; ++i) cycles[i]->setText(widgets::qtText(labels.cycles[i]));
+    ui_->LabelMedia->setText(widgets::qtText(labels.mean));
 }
 
 void FrmCompaTab::turnTo(int tab) {
@@ -110,22 +112,22 @@ void FrmCompaTab::turnTo(int tab) {
         return;
     }
     const std::string main = view().mainName().toStdString();
-    const SecondProfile& second = record().second;
+    const SecondProfile& second = biorhythms_.second;
     const base::CivilTime clock = base::civilTimeOf(desktop().clock.now());
-    ui_->LabelInfo->setText(QString::fromStdString(
-        tab == actualTab ? actualHeading(main, second.profileSecondName, record().bioView.reading, clock)
+    ui_->LabelInfo->setText(widgets::qtText(
+        tab == actualTab ? actualHeading(main, second.profileSecondName, biorhythms_.view.reading, clock)
                          : generalHeading(main, second.profileSecondName)));
     compare();
 }
 
 void FrmCompaTab::plotToggled(bool checked) {
     if (mainIsChosen()) return;
-    SecondProfile& second = record().second;
-    storeDrawSecond(record().options, second, checked);
+    SecondProfile& second = biorhythms_.second;
+    storeDrawSecond(options(), second, checked);
     if (!checked)
         view().hideSecondName();
     else if (!second.profileSecondName.empty())
-        view().showSecondName(qtText(second.profileSecondName));
+        view().showSecondName(widgets::qtText(second.profileSecondName));
     view().mschart();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "biorhythm/biorhythm_state.h"
 #include "biorhythm/compatibility.h"
 #include "shell/windows/secondary_window.h"
 
@@ -12,7 +13,7 @@ class FrmCompaTab;
 
 namespace velmoriax::biorhythm {
 
-class frmBio;
+class ProfileView;
 
 /// Compares the main profile with a second one, at this moment and for good, and decides whether the chart of the view
 /// draws the second one.
@@ -20,7 +21,9 @@ class FrmCompaTab : public shell::SecondaryWindow {
     Q_OBJECT
 
 public:
-    explicit FrmCompaTab(shell::Process& process);
+    static constexpr std::string_view windowName = "FrmCompaTab";
+
+    FrmCompaTab(shell::WindowContext& context, BiorhythmState& biorhythms);
     ~FrmCompaTab() override;
 
     void load() override;
@@ -31,7 +34,7 @@ protected:
 private:
     enum Tab { actualTab, generalTab, exitTab };
 
-    frmBio& view() const;
+    ProfileView& view() const;
     QString chosenName() const;
     bool mainIsChosen() const;
 
@@ -42,6 +45,7 @@ private:
     void turnTo(int tab);
     void plotToggled(bool checked);
 
+    BiorhythmState& biorhythms_;
     std::unique_ptr<Ui::FrmCompaTab> ui_;
     Compatibility compatibility_;
 };

@@ -3,14 +3,16 @@
 
 #include "biorhythm/bio_texts.h"
 #include "biorhythm/profile_store.h"
-#include "biorhythm/windows/frm_bio.h"
-#include "biorhythm/windows/qt_values.h"
+#include "biorhythm/windows/form_mod.h"
+#include "biorhythm/windows/profile_view.h"
 #include "shell/windows/window_registry.h"
 #include "ui_frm_profiles.h"
+#include "widgets/conversions.h"
 
 namespace velmoriax::biorhythm {
 
-FrmProfiles::FrmProfiles(shell::Process& process) : SecondaryWindow(process), ui_(std::make_unique<Ui::FrmProfiles>()) {
+FrmProfiles::FrmProfiles(shell::WindowContext& context) :
+    SecondaryWindow(context), ui_(std::make_unique<Ui::FrmProfiles>()) {
     ui_->setupUi(this);
     connect(ui_->CmdBorrar, &QPushButton::clicked, this, &FrmProfiles::deleteRecord);
     connect(ui_->CmdMod, &QPushButton::clicked, this, &FrmProfiles::modifyRecord);
@@ -20,18 +22,18 @@ FrmProfiles::FrmProfiles(shell::Process& process) : SecondaryWindow(process), ui
 FrmProfiles::~FrmProfiles() = default;
 
 void FrmProfiles::load() {
-    record().shell.noTrayAdd = true;
-    standOverModule();
+    state().noTrayAdd = true;
+    centreOverModule();
     ListaPerfiles();
 }
 
 void FrmProfiles::onUnload() {
-    record().shell.noTrayAdd = false;
+    state().noTrayAdd = false;
 }
 
 void FrmProfiles::ListaPerfiles() {
     QStringList lines;
-    for (const std::string& line : profileLines(desktop().files)) lines << qtText(line);
+    for (const std::string& line : profileLines(desktop().files)) lines << widgets::qtText(line);
     ui_->ListProfiles->clear();
     ui_->ListProfiles->addItems(lines);
 }
@@ -51,12 +53,12 @@ void FrmProfiles::modifyRecord() {
     if (selectedRecord().empty())
         return desktop().boxes.show(platform::BoxIcon::warning, std::string(text::chooseRecord),
                                     std::string(text::chooseRecordTitle));
-    process().windows.touch("FormMod", process()).showNormalState();
+    windows().touch<FormMod>().showNormalState();
 }
 
 /// Only this way out brings the list of the view up to date; the close box leaves it as it is.
 void FrmProfiles::exit() {
-    if (frmBio* view = frmBio::loadedIn(process())) view->listProfilesAnew();
+    if (ProfileView* view = windows().loaded<ProfileView>()) view->listProfilesAnew();
     close();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "biorhythm/windows/profile_list.h"
 #include "shell/windows/secondary_window.h"
 
 #include <memory>
@@ -13,20 +14,19 @@ class FrmProfiles;
 namespace velmoriax::biorhythm {
 
 /// The records of the profile list as they stand in the file, to be deleted or modified.
-class FrmProfiles : public shell::SecondaryWindow {
+class FrmProfiles : public shell::SecondaryWindow, public ProfileList {
     Q_OBJECT
 
 public:
-    explicit FrmProfiles(shell::Process& process);
+    using ProfileList::windowName;
+
+    explicit FrmProfiles(shell::WindowContext& context);
     ~FrmProfiles() override;
 
     void load() override;
 
-    /// Fills the list from the file.
-    void ListaPerfiles();
-
-    /// The line that is chosen; empty when none is.
-    std::string selectedRecord() const;
+    void ListaPerfiles() override;
+    std::string selectedRecord() const override;
 
 protected:
     void onUnload() override;

@@ -3,13 +3,13 @@
 #include "biorhythm/windows/plot_drawing.h"
 #include "biorhythm/windows/bio_colours.h"
 #include "biorhythm/windows/cycle_graph.h"
-#include "shell/windows/look.h"
+#include "widgets/look.h"
 
 namespace velmoriax::biorhythm {
 
 namespace {
 
-namespace look = shell::look;
+namespace look = widgets::look;
 
 constexpr double highest = 1.12; ///< of the value axis: a line at its peak keeps its whole width
 constexpr double rowCount = chartRowCount;
@@ -20,13 +20,13 @@ QColor faint(QColor colour, int alpha) {
 }
 
 void dressAxis(QCPAxis& axis, const QFont& font) {
-    axis.setBasePen(QPen(look::quietText(), 0));
+    axis.setBasePen(QPen(widgets::look::quietText(), 0));
     axis.setTickPen(Qt::NoPen);
     axis.setSubTickPen(Qt::NoPen);
-    axis.setTickLabelColor(look::ivory());
+    axis.setTickLabelColor(widgets::look::ivory());
     axis.setTickLabelFont(font);
-    axis.grid()->setPen(QPen(faint(look::quietText(), 34), 0));
-    axis.grid()->setZeroLinePen(QPen(faint(look::ivory(), 150), 0));
+    axis.grid()->setPen(QPen(faint(widgets::look::quietText(), 34), 0));
+    axis.grid()->setZeroLinePen(QPen(faint(widgets::look::ivory(), 150), 0));
 }
 
 /// The plot itself, with one graph a series.
@@ -53,7 +53,7 @@ private:
 Drawing::Drawing(QWidget* parent) : QCustomPlot(parent) {
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setBackground(look::ground());
+    setBackground(widgets::look::ground());
     axisRect()->setBackground(plotGround());
     axisRect()->setMinimumMargins(QMargins(0, 2, 2, 0));
     addRows();
@@ -89,7 +89,7 @@ void Drawing::addLegend() {
     legend->setWrap(cycleCount);
     legend->setBrush(Qt::NoBrush);
     legend->setBorderPen(Qt::NoPen);
-    legend->setTextColor(look::ivory());
+    legend->setTextColor(widgets::look::ivory());
     legend->setFont(font());
     legend->setIconSize(30, 16);
     legend->setMargins(QMargins(4, 0, 4, 0));
@@ -103,12 +103,12 @@ void Drawing::markReading() {
     band->topLeft->setCoords(row - 0.5, highest);
     band->bottomRight->setCoords(row + 0.5, -highest);
     band->setPen(Qt::NoPen);
-    band->setBrush(faint(look::gold(), 60));
+    band->setBrush(faint(widgets::look::gold(), 60));
     auto* line = new QCPItemStraightLine(this);
     line->setLayer(QStringLiteral("background"));
     line->point1->setCoords(row, -highest);
     line->point2->setCoords(row, highest);
-    line->setPen(QPen(look::gold(), 1));
+    line->setPen(QPen(widgets::look::gold(), 1));
 }
 
 void Drawing::addSeries() {

@@ -21,6 +21,6 @@ public:
 
 /// Loads the drawing's library from the folder of the program's libraries and makes a drawing that lives as long as its
 /// parent. Throws base::RunTimeError when the library is missing.
-PlotDrawing& loadPlotDrawing(const std::string& libraryFolder, QWidget& parent);
+PlotDrawing& loadPlotDrawing(const std::string& pluginFolder, QWidget& parent);
 
 } // namespace velmoriax::biorhythm

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/ctx_sys_tray.h"
 
+#include "desktop/desktop_tray.h"
 #include "shell/task_bar_metrics.h"
-#include "shell/windows/tip_contents.h"
+#include "shell/tray_tip.h"
 #include "shell/windows/window_registry.h"
+#include "widgets/conversions.h"
 
 #include <QCursor>
 
@@ -19,14 +21,14 @@ constexpr qsizetype longestBalloon = 256;
 constexpr qsizetype longestTitle = 64;
 
 QString text(std::string_view utf8, qsizetype longest) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).left(longest);
+    return widgets::qtText(utf8).left(longest);
 }
 
 } // namespace
 
-CtxSysTray::CtxSysTray(Process& process, QMenu& popup) : process_(process), popup_(popup) {
+CtxSysTray::CtxSysTray(WindowContext& context, QMenu& popup) : context_(context), popup_(popup) {
     using desktop::DesktopTray;
-    DesktopTray& tray = process.desktop.tray;
+    DesktopTray& tray = context.desktop.tray;
     connect(&tray, &DesktopTray::pointerMoved, this, &CtxSysTray::pointerMoved);
     connect(&tray, &DesktopTray::leftClicked, this, [this] { clicked(leftButton, false); });
     connect(&tray, &DesktopTray::leftDoubleClicked, this, [this] { clicked(leftButton, true); });
@@ -45,14 +47,14 @@ CtxSysTray::~CtxSysTray() {
 }
 
 void CtxSysTray::AddIconToSystray(std::string_view tip) {
-    if (process_.record.shell.noTrayAdd) return;
+    if (context_.state.noTrayAdd) return;
     added_ = true;
-    process_.desktop.tray.add(text(tip, longestTip), &popup_);
+    context_.desktop.tray.add(text(tip, longestTip), &popup_);
     followTipText();
 }
 
 void CtxSysTray::UpdateIcon(std::string_view tip) {
-    if (added_) process_.desktop.tray.update(text(tip, longestTip));
+    if (added_) context_.desktop.tray.update(text(tip, longestTip));
 }
 
 void CtxSysTray::RemoveIconFromSystray() {
@@ -62,31 +64,31 @@ void CtxSysTray::RemoveIconFromSystray() {
     watch_ = {};
     updateTimer();
     textTimer_.stop();
-    process_.desktop.tray.remove();
+    context_.desktop.tray.remove();
 }
 
 void CtxSysTray::Popup(std::string_view words, std::string_view title, unsigned flags) {
-    process_.desktop.tray.showBalloon(text(title, longestTitle), text(words, longestBalloon), flags & noSound);
+    context_.desktop.tray.showBalloon(text(title, longestTitle), text(words, longestBalloon), flags & noSound);
 }
 
 void CtxSysTray::HidePopUp() {
-    process_.desktop.tray.hideBalloon();
+    context_.desktop.tray.hideBalloon();
 }
 
 void CtxSysTray::pointerMoved() {
     if (!added_) return;
     const QPoint pointer = QCursor::pos();
     Q_EMIT MouseMouse(static_cast<float>(pointer.x()), static_cast<float>(pointer.y()));
-    const bool mayStart = !process_.record.cards.cardDescriptionOpen && !process_.record.shell.viewLoading;
-    switch (watch_.pointerMoved(tooltips(), mayStart, process_.record.shell)) {
-    case TipWatch::MoveDeed::measure:
+    const bool mayStart = !context_.state.cardDescriptionOpen && !context_.state.viewLoading;
+    switch (watch_.pointerMoved(tooltips(), mayStart, context_.state)) {
+    case TipWatch::MoveAction::measure:
         measureTrayCell();
         UpdateIcon(""); // a name left from the time when tips were off would stand beside ours
         break;
-    case TipWatch::MoveDeed::showName:
+    case TipWatch::MoveAction::showName:
         UpdateIcon(programName);
         break;
-    case TipWatch::MoveDeed::none:
+    case TipWatch::MoveAction::none:
         break;
     }
     updateTimer();
@@ -99,52 +101,57 @@ void CtxSysTray::clicked(int button, bool twice) {
         Q_EMIT DblClick(button);
     else
         Q_EMIT MouseUp(button);
-    watch_.clicked(process_.record.shell);
+    watch_.clicked(context_.state);
     updateTimer();
     takeTipAway();
     followTipText();
 }
 
 void CtxSysTray::measureTrayCell() {
-    ShellState& shell = process_.record.shell;
-    getTaskBarMetrics(process_.desktop.taskBar, shell);
+    ShellState& shell = context_.state;
+    getTaskBarMetrics(context_.desktop.taskBar, shell);
     shell.taskBarAtBottom = shell.taskBarLocation == platform::TaskBarPosition::bottomEdge;
 }
 
 /// The tray tells the icon's true rectangle, wherever the panel has moved it meanwhile.
 void CtxSysTray::tickTooltip() {
-    const bool onIcon = process_.desktop.tray.geometry().contains(QCursor::pos());
-    switch (watch_.tick(tooltips(), onIcon, process_.record.shell)) {
-    case TipWatch::TickDeed::raise:
+    const bool onIcon = context_.desktop.tray.geometry().contains(QCursor::pos());
+    switch (watch_.tick(tooltips(), onIcon, context_.state)) {
+    case TipWatch::TickAction::raise:
         raiseTip();
         break;
-    case TipWatch::TickDeed::takeAway:
+    case TipWatch::TickAction::takeAway:
         takeTipAway();
         break;
-    case TipWatch::TickDeed::none:
+    case TipWatch::TickAction::none:
         break;
     }
     updateTimer();
 }
 
 void CtxSysTray::raiseTip() {
-    if (process_.record.options.holders.estiloTooltips != "personal") return showTrayBalloon();
+    if (context_.options.holders.estiloTooltips != "personal") return showTrayBalloon();
     UpdateIcon("");
-    if (!process_.record.shell.viewLoading) process_.windows.touch("FrmToolTip", process_);
+    if (!context_.state.viewLoading) context_.windows.touch("FrmToolTip");
 }
 
 /// Of both styles, since the style may have been changed while the tip stood.
 void CtxSysTray::takeTipAway() {
-    process_.windows.unload("FrmToolTip");
-    process_.record.shell.tipShown = false;
+    context_.windows.unload("FrmToolTip");
+    context_.state.tipShown = false;
     HidePopUp();
 }
 
 void CtxSysTray::showTrayBalloon() {
-    const bool silent = process_.record.options.holders.modoSilencioso == "mudo";
-    const std::string lines = balloonTextNow(process_);
+    const bool silent = context_.options.holders.modoSilencioso == "mudo";
+    const std::string lines = balloonTextNow();
     if (!added_) return; // events have run inside, a hand-over among them
     Popup(lines, programName, silent ? informationIcon | noSound : informationIcon);
+}
+
+std::string CtxSysTray::balloonTextNow() const {
+    const Subsystems& subsystems = context_.subsystems;
+    return balloonText(subsystems.alerts.birthDate(), context_.desktop.clock.now(), subsystems.tipLines);
 }
 
 void CtxSysTray::tooltipsSwitched() {
@@ -156,8 +163,8 @@ void CtxSysTray::tooltipsSwitched() {
 
 /// Starts or ends the minutes of the item's text.
 void CtxSysTray::followTipText() {
-    const desktop::DesktopTray& tray = process_.desktop.tray;
-    const bool panelShowsText = added_ && tray.decided() && !tray.tellsPointer() && !tooltipsOff();
+    const desktop::DesktopTray& tray = context_.desktop.tray;
+    const bool panelShowsText = added_ && tray.decided() && !tray.reportsPointer() && !tooltipsOff();
     if (!panelShowsText) return textTimer_.stop();
     if (textTimer_.isActive()) return;
     textTimer_.start();
@@ -165,9 +172,9 @@ void CtxSysTray::followTipText() {
 }
 
 void CtxSysTray::refreshTipText() {
-    if (!added_ || tooltipsOff() || process_.record.shell.viewLoading) return;
-    const QString lines = QString::fromStdString(balloonTextNow(process_)).remove(u'\r');
-    if (added_) process_.desktop.tray.update(lines);
+    if (!added_ || tooltipsOff() || context_.state.viewLoading) return;
+    const QString lines = QString::fromStdString(balloonTextNow()).remove(u'\r');
+    if (added_) context_.desktop.tray.update(lines);
 }
 
 /// Ticks that would do nothing need not wake the program up.

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "shell/tip_watch.h"
-#include "shell/tray_tip.h"
-#include "shell/windows/process.h"
+#include "shell/windows/window_context.h"
 
 #include <QMenu>
 #include <QObject>
@@ -29,7 +28,7 @@ public:
     static constexpr unsigned noSound = 16;
 
     /// `popup` is the window's menu "MnuIcon".
-    CtxSysTray(Process& process, QMenu& popup);
+    CtxSysTray(WindowContext& context, QMenu& popup);
     ~CtxSysTray() override;
 
     /// Adds the icon with a tip text of at most 128 characters. Does nothing while `noTrayAdd` is up.
@@ -60,13 +59,14 @@ private:
     void raiseTip();
     void takeTipAway();
     void showTrayBalloon();
+    std::string balloonTextNow() const;
     void followTipText();
     void refreshTipText();
     void updateTimer();
-    const std::string& tooltips() const { return process_.record.options.holders.tooltips; }
+    const std::string& tooltips() const { return context_.options.holders.tooltips; }
     bool tooltipsOff() const { return tooltips() == "ToolTips off"; }
 
-    Process& process_;
+    WindowContext& context_;
     QMenu& popup_;
     bool added_ = false;
     TipWatch watch_;

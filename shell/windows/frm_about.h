@@ -5,6 +5,7 @@
 #include "shell/windows/secondary_window.h"
 
 #include <memory>
+#include <string_view>
 
 namespace Ui {
 class frmAbout;
@@ -17,14 +18,16 @@ class frmAbout : public SecondaryWindow {
     Q_OBJECT
 
 public:
-    explicit frmAbout(Process& process);
+    static constexpr std::string_view windowName = "frmAbout";
+
+    explicit frmAbout(WindowContext& context);
     ~frmAbout() override;
 
     void load() override;
 
 protected:
     /// The tray tip works again after the box that the tray menu opened.
-    void onUnload() override { record().shell.trayBusy = false; }
+    void onUnload() override { state().trayBusy = false; }
 
     /// The pointer is over the free surface: no link is underlined.
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -6,6 +6,7 @@
 #include "shell/windows/module_window.h"
 #include "shell/windows/window_registry.h"
 #include "ui_frm_options.h"
+#include "widgets/conversions.h"
 
 #include <QAbstractButton>
 
@@ -13,26 +14,24 @@ namespace velmoriax::shell {
 
 namespace {
 
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 template<typename Work>
 void forEachOption(const QWidget& window, Work work) {
     for (std::size_t i = 0; i < optionCount; ++i) {
         const auto option = static_cast<Option>(i);
-        work(option, *window.findChild<QAbstractButton*>(text(controlName(option))));
+        work(option, *window.findChild<QAbstractButton*>(widgets::qtText(controlName(option))));
     }
 }
 
 } // namespace
 
-FrmOptions::FrmOptions(Process& process) :
-    SecondaryWindow(process), ui_(std::make_unique<Ui::FrmOptions>()),
-    dialog_(process.record, {process.desktop.autostart, process.desktop.boxes, process.desktop.taskBar}) {
+FrmOptions::FrmOptions(WindowContext& context) :
+    SecondaryWindow(context), ui_(std::make_unique<Ui::FrmOptions>()),
+    dialog_(context.options, context.state, {context.desktop.autostart, context.desktop.boxes, context.desktop.taskBar},
+            context.windows.modules()) {
     ui_->setupUi(this);
-    for (const ModuleRow& row : modules) ui_->Combolist->addItem(text(row.initialText));
-    for (const AlertLevel& level : alertLevels) ui_->ComboBio->addItem(text(level.caption));
+    for (const ModuleInfo* module : context.windows.modules())
+        ui_->Combolist->addItem(widgets::qtText(module->initialText));
+    for (const AlertLevel& level : alertLevels) ui_->ComboBio->addItem(widgets::qtText(level.caption));
     connectOptions();
     connectList(*ui_->Combolist, OptionList::Combolist);
     connectList(*ui_->ComboBio, OptionList::ComboBio);
@@ -42,9 +41,9 @@ FrmOptions::FrmOptions(Process& process) :
 FrmOptions::~FrmOptions() = default;
 
 void FrmOptions::load() {
-    dialog_.LeerIni(record().options.fileName(), optionsSection, {});
+    dialog_.LeerIni(options().fileName(), optionsSection, {});
     showState();
-    standOverModule();
+    centreOverModule();
 }
 
 void FrmOptions::connectOptions() {
@@ -73,7 +72,7 @@ void FrmOptions::showState() {
 
 /// The icon's text depends on whether tips are on, and so does whether its timers run.
 void FrmOptions::tellTray() {
-    if (ModuleWindow* module = process().windows.loadedModule()) module->ctxSysTray1().tooltipsSwitched();
+    if (ModuleWindow* module = ModuleWindow::loadedIn(windows())) module->ctxSysTray1().tooltipsSwitched();
 }
 
 void FrmOptions::closeByButton() {

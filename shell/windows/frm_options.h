@@ -5,6 +5,7 @@
 #include "shell/windows/secondary_window.h"
 
 #include <memory>
+#include <string_view>
 
 class QComboBox;
 
@@ -19,7 +20,9 @@ class FrmOptions : public SecondaryWindow {
     Q_OBJECT
 
 public:
-    explicit FrmOptions(Process& process);
+    static constexpr std::string_view windowName = "FrmOptions";
+
+    explicit FrmOptions(WindowContext& context);
     ~FrmOptions() override;
 
     void load() override;

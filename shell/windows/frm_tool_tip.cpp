@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/frm_tool_tip.h"
 
-#include "shell/windows/look.h"
-#include "shell/windows/moon_picture.h"
+#include "shell/tray_tip.h"
+#include "shell/windows/popup_pictures.h"
 #include "shell/windows/screen_measures.h"
-#include "shell/windows/tip_contents.h"
-#include "shell/windows/topmost.h"
-#include "sky/moon_pictures.h"
-#include "sky/time_zone_shift.h"
 #include "ui_frm_tool_tip.h"
+#include "widgets/conversions.h"
+#include "widgets/look.h"
+#include "widgets/topmost.h"
+#include "widgets/turned_picture.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -32,17 +32,18 @@ const QScreen* screenUnder(QPoint pointer) {
 
 } // namespace
 
-FrmToolTip::FrmToolTip(Process& process) :
-    SecondaryWindow(process, smallWindow), ui_(std::make_unique<Ui::FrmToolTip>()) {
+FrmToolTip::FrmToolTip(WindowContext& context) :
+    SecondaryWindow(context, smallWindow), ui_(std::make_unique<Ui::FrmToolTip>()) {
+    openPopupPictures();
     ui_->setupUi(this);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setMouseTracking(true);
-    look::asTitle(*ui_->LblTitle);
+    widgets::look::asTitle(*ui_->LblTitle);
     QFont title = ui_->LblTitle->font();
     title.setPointSizeF(font().pointSizeF() * titleShare);
     ui_->LblTitle->setFont(title);
     ui_->ImgLuna->setCornerRadius(roundMoon);
-    look::asQuiet(*ui_->LabelDate);
+    widgets::look::asQuiet(*ui_->LabelDate);
     ui_->back->setBack(QStringLiteral(":/popups/tooltip.png"));
     // The whole surface is one: what moves over a label moves over the window.
     for (QWidget* part : findChildren<QWidget*>()) part->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -51,39 +52,39 @@ FrmToolTip::FrmToolTip(Process& process) :
 FrmToolTip::~FrmToolTip() = default;
 
 void FrmToolTip::load() {
-    if (record().shell.viewLoading || !record().shell.trayBusy) return;
+    if (state().viewLoading || !state().trayBusy) return;
     const QPoint pointer = QCursor::pos();
     const ScreenMeasures screen = measuresOf(screenUnder(pointer));
-    if (!personalTipMayStand(screen, pointer.y(), record().shell.taskBarAtBottom)) return;
-    if (!record().shell.tipShown) {
+    if (!personalTipFits(screen, pointer.y(), state().taskBarAtBottom)) return;
+    if (!state().tipShown) {
         fill();
         if (!isLoaded()) return; // events have run inside, a click on the icon among them
         const QSize size(std::max(ui_->back->backSize().width(), sizeHint().width()), sizeHint().height());
         resize(size);
         move(personalTipLeft(screen, size.width(), pointer.x()), personalTipTop(screen, size.height()));
-        record().shell.tipShown = true;
+        state().tipShown = true;
     }
     refreshTipMoon();
     if (!isLoaded()) return;
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
     show();
-    Topmost(*this);
+    widgets::Topmost(*this);
 }
 
 void FrmToolTip::fill() {
-    const PersonalTip tip = personalTipNow(process());
-    if (!tip.date.empty()) ui_->LabelDate->setText(QString::fromStdString(tip.date));
-    ui_->LblToolTip->setText(QString::fromStdString(tip.lines));
+    const Subsystems& subsystems = context().subsystems;
+    const PersonalTip tip = personalTip(subsystems.alerts.birthDate(), desktop().clock.now(), subsystems.tipLines);
+    if (!tip.date.empty()) ui_->LabelDate->setText(widgets::qtText(tip.date));
+    ui_->LblToolTip->setText(widgets::qtText(tip.lines));
 }
 
 void FrmToolTip::refreshTipMoon() {
-    const base::DateValue moment = sky::localToUniversal(desktop().clock.now(), desktop().zone);
-    const std::string name = sky::drawDayMoon(sky::MoonEngine(desktop().events), moment, record().sky);
-    ui_->ImgLuna->setPicture(moonPicture(desktop().files, name, record().options.holders.hemisferio));
+    const base::PictureChoice moon = context().subsystems.tipPicture.tipPicture(desktop().clock.now());
+    ui_->ImgLuna->setPicture(widgets::loadChoice(desktop().files, moon));
 }
 
 void FrmToolTip::mouseMoveEvent(QMouseEvent*) {
-    record().shell.tipShown = false;
+    state().tipShown = false;
     unload();
 }
 

@@ -4,6 +4,7 @@
 #include "shell/windows/secondary_window.h"
 
 #include <memory>
+#include <string_view>
 
 namespace Ui {
 class FrmToolTip;
@@ -16,7 +17,9 @@ class FrmToolTip : public SecondaryWindow {
     Q_OBJECT
 
 public:
-    explicit FrmToolTip(Process& process);
+    static constexpr std::string_view windowName = "FrmToolTip";
+
+    explicit FrmToolTip(WindowContext& context);
     ~FrmToolTip() override;
 
     void load() override;

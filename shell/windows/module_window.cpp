@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/module_window.h"
 
-#include "shell/windows/focused_button.h"
-#include "shell/windows/picture_box.h"
-#include "shell/windows/secondary_window.h"
+#include "desktop/desktop_tray.h"
+#include "shell/tray_tip.h"
 #include "shell/windows/window_registry.h"
+#include "widgets/conversions.h"
+#include "widgets/focused_button.h"
+#include "widgets/picture_box.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -18,10 +20,6 @@
 namespace velmoriax::shell {
 
 namespace {
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 constexpr int handOverWaitMs = 50;
 
@@ -39,31 +37,39 @@ void centre(QWidget& window) {
 
 } // namespace
 
-ModuleWindow::ModuleWindow(Process& process, Module module) :
-    process_(process), module_(module), tray_(process, iconMenu_) {
-    setObjectName(text(windowNameOf(module)));
+ModuleWindow::ModuleWindow(WindowContext& context, const ModuleInfo& module) :
+    context_(context), module_(module), tray_(context, iconMenu_) {
+    setObjectName(widgets::qtText(module.windowName));
     connect(&tray_, &CtxSysTray::MouseUp, this, &ModuleWindow::onTrayButtonUp);
     connect(&tray_, &CtxSysTray::DblClick, this, &ModuleWindow::onTrayDoubleClick);
-    connect(&process.desktop.tray, &desktop::DesktopTray::trayLost, this, &ModuleWindow::onTrayLost);
+    connect(&desktop().tray, &desktop::DesktopTray::trayLost, this, &ModuleWindow::onTrayLost);
+}
+
+ModuleWindow* ModuleWindow::loadedIn(const WindowRegistry& windows) {
+    return dynamic_cast<ModuleWindow*>(windows.loadedModule());
 }
 
 void ModuleWindow::load() {
-    ShellState& flags = record().shell;
+    ShellState& flags = state();
     flags.viewLoading = true;
     if (!isRefresh()) centre(*this);
     beforeOptions();
-    record().options.readAtModuleLoad(module_ == Module::cardOfDay);
-    const bool tooltipsOff = record().options.holders.tooltips == "ToolTips off";
-    if (!isRefresh()) tray_.AddIconToSystray(tooltipsOff ? programName : std::string_view{});
+    options().readAtModuleLoad();
+    if (!isRefresh()) addTrayIcon();
     ownLoad();
     if (isLoaded()) decideShowing(); // events may have run inside, the program's exit among them
     flags.viewLoading = false;
 }
 
+void ModuleWindow::addTrayIcon() {
+    const bool tooltipsOff = options().holders.tooltips == "ToolTips off";
+    tray_.AddIconToSystray(tooltipsOff ? programName : std::string_view{});
+}
+
 void ModuleWindow::decideShowing() {
     if (isRefresh()) return showNormalState();
     unloadForReal_ = false;
-    const std::string startMinimized = record().options.leerIniciarMinimizado();
+    const std::string startMinimized = options().leerIniciarMinimizado();
     if (!startsHidden(module_, startMinimized)) return showNormalState();
     hide();
     // A window that no tray can bring back is shown after all, as soon as that is known.
@@ -79,20 +85,19 @@ void ModuleWindow::decideShowing() {
         connect(&tray, &desktop::DesktopTray::waitEnded, this, showIfUnreachable);
 }
 
-void ModuleWindow::handOverTo(Module target) {
-    if (record().shell.viewLoading) {
+void ModuleWindow::handOverTo(std::string_view target) {
+    if (state().viewLoading) {
         // A click that comes in while a load lets events run: it waits until the window that loads stands.
         QTimer::singleShot(handOverWaitMs, this, [this, target] { handOverTo(target); });
         return;
     }
     tray_.RemoveIconFromSystray();
-    process_.windows.touch(target, process_).showNormalState();
-    unloadForReal_ = true;
+    windows().touch(target).showNormalState();
     unload();
 }
 
 bool ModuleWindow::isLoaded() const {
-    return process_.windows.isLoaded(*this);
+    return windows().isLoaded(*this);
 }
 
 void ModuleWindow::showNormalState() {
@@ -117,8 +122,8 @@ void ModuleWindow::hideToTray() {
 /// comes up.
 void ModuleWindow::releaseTip() {
     if (QWidget* holder = QWidget::mouseGrabber()) holder->releaseMouse();
-    record().shell.trayBusy = true;
-    process_.windows.unload("FrmToolTip");
+    state().trayBusy = true;
+    windows().unload("FrmToolTip");
 }
 
 void ModuleWindow::onTrayButtonUp(int button) {
@@ -138,14 +143,14 @@ void ModuleWindow::onTrayDoubleClick() {
 
 /// A window that was hidden into a tray that is no more comes back to the taskbar.
 void ModuleWindow::onTrayLost() {
-    if (isVisible() || process_.windows.loadedModule() != this) return;
+    if (isVisible() || windows().loadedModule() != this) return;
     showMinimized();
     tellMissingTray();
 }
 
 void ModuleWindow::tellMissingTray() {
     // At login the panel may still be on its way.
-    if (!desktop().tray.decided() || std::exchange(record().shell.trayMissingTold, true)) return;
+    if (!desktop().tray.decided() || std::exchange(state().trayMissingReported, true)) return;
     QTimer::singleShot(0, this, [this] {
         desktop().boxes.show(
             platform::BoxIcon::information,
@@ -156,25 +161,25 @@ void ModuleWindow::tellMissingTray() {
 }
 
 void ModuleWindow::unload() {
+    unloadForReal_ = true;
+    closeOrUnload();
+}
+
+void ModuleWindow::closeOrUnload() {
     beforeClose();
     if (!unloadForReal_) return hideToTray();
-    const bool soundOn = record().options.holders.bgSound == "SiBgSound";
-    if (!record().shell.closingAll && soundOn) desktop().sounds.playWav("boop.wav");
+    const bool soundOn = options().holders.bgSound == "SiBgSound";
+    if (!state().closingAll && soundOn) desktop().sounds.playWav("boop.wav");
     unloadForReal_ = false;
     onUnload();
     hide();
-    process_.windows.release(*this);
-}
-
-void ModuleWindow::unloadAtExit() {
-    unloadForReal_ = true;
-    unload();
+    windows().release(*this);
 }
 
 void ModuleWindow::UnloadAllForms() {
     tray_.RemoveIconFromSystray();
-    record().shell.closingAll = true;
-    process_.windows.unloadAll();
+    state().closingAll = true;
+    windows().unloadAll();
     QCoreApplication::exit(0);
 }
 
@@ -183,7 +188,7 @@ void ModuleWindow::closeEvent(QCloseEvent* event) {
     // Without a tray the window goes to the taskbar instead, and only then the event is refused.
     const bool canHide = desktop().tray.reachable() || qApp->isSavingSession();
     event->setAccepted(canHide);
-    unload();
+    closeOrUnload();
 }
 
 void ModuleWindow::changeEvent(QEvent* event) {
@@ -194,26 +199,26 @@ void ModuleWindow::changeEvent(QEvent* event) {
 }
 
 void ModuleWindow::keyPressEvent(QKeyEvent* event) {
-    if (!pressFocusedButton(*this, *event)) QMainWindow::keyPressEvent(event);
+    if (!widgets::pressFocusedButton(*this, *event)) QMainWindow::keyPressEvent(event);
 }
 
 void ModuleWindow::minimised() {
     if (!isMinimized()) return;
-    const bool toSystray = record().options.holders.minimizeTo == "systray";
+    const bool toSystray = options().holders.minimizeTo == "systray";
     if (toSystray && desktop().tray.reachable()) hide();
     onMinimised(toSystray);
 }
 
-void ModuleWindow::run(Command command, Module target, std::string_view name) {
+void ModuleWindow::run(Command command, std::string_view target, std::string_view name) {
     switch (command) {
     case Command::goTo:
         return handOverTo(target);
     case Command::hide:
         return hideToTray();
     case Command::options:
-        return process_.windows.touch("FrmOptions", process_).showNormalState();
+        return windows().touch("FrmOptions").showNormalState();
     case Command::about:
-        return process_.windows.touch("frmAbout", process_).showNormalState();
+        return windows().touch("frmAbout").showNormalState();
     case Command::help:
         desktop().opener.open(desktop().files.applicationDirectory() + "/Velmoriax.html");
         return;
@@ -230,23 +235,23 @@ void ModuleWindow::run(Command command, Module target, std::string_view name) {
 void ModuleWindow::ownCommand(std::string_view) {}
 
 void ModuleWindow::buildNavigation() {
-    const ModuleNavigation& navigation = navigationOf(module_);
+    const ModuleNavigation& navigation = module_.navigation;
     for (const ButtonRow& row : navigation.buttons) connectButton(row);
-    iconMenu_.setObjectName(text(navigation.iconMenu.name));
+    iconMenu_.setObjectName(widgets::qtText(navigation.iconMenu.name));
     addEntries(&iconMenu_, navigation.iconMenu);
     for (const Menu& table : navigation.mainMenus) {
-        QMenu* menu = menuBar()->addMenu(text(table.caption));
-        menu->setObjectName(text(table.name));
+        QMenu* menu = menuBar()->addMenu(widgets::qtText(table.caption));
+        menu->setObjectName(widgets::qtText(table.name));
         addEntries(menu, table);
     }
 }
 
 void ModuleWindow::connectButton(const ButtonRow& row) {
     const auto act = [this, row] { run(row.command, row.target, row.name); };
-    if (auto* button = findChild<QAbstractButton*>(text(row.name)))
+    if (auto* button = findChild<QAbstractButton*>(widgets::qtText(row.name)))
         connect(button, &QAbstractButton::clicked, this, act);
-    else if (auto* picture = findChild<PictureBox*>(text(row.name)))
-        connect(picture, &PictureBox::clicked, this, act);
+    else if (auto* picture = findChild<widgets::PictureBox*>(widgets::qtText(row.name)))
+        connect(picture, &widgets::PictureBox::clicked, this, act);
 }
 
 void ModuleWindow::addEntries(QMenu* menu, const Menu& table) {
@@ -258,12 +263,12 @@ void ModuleWindow::addEntries(QMenu* menu, const Menu& table) {
             continue;
         }
         if (entry.command == Command::submenu) {
-            submenu = parent->addMenu(text(entry.caption));
-            submenu->setObjectName(text(entry.name));
+            submenu = parent->addMenu(widgets::qtText(entry.caption));
+            submenu->setObjectName(widgets::qtText(entry.name));
             continue;
         }
-        QAction* action = parent->addAction(text(entry.caption));
-        action->setObjectName(text(entry.name));
+        QAction* action = parent->addAction(widgets::qtText(entry.caption));
+        action->setObjectName(widgets::qtText(entry.name));
         action->setCheckable(entry.checkable);
         connect(action, &QAction::triggered, this, [this, entry] { run(entry.command, entry.target, entry.name); });
         actions_.emplace(entry.name, action);

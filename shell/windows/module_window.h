@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/navigation.h"
+#include "shell/modules.h"
 #include "shell/windows/ctx_sys_tray.h"
-#include "shell/windows/process.h"
+#include "shell/windows/managed_window.h"
+#include "shell/windows/window_context.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -16,31 +17,32 @@ namespace velmoriax::shell {
 
 /// What the six modules have in common: the load routine around each one's own work, the hand-over to the next module,
 /// hiding and minimising, the tray icon and its menu, the exit.
-class ModuleWindow : public QMainWindow {
+class ModuleWindow : public QMainWindow, public ManagedWindow {
     Q_OBJECT
 
 public:
-    ModuleWindow(Process& process, Module module);
+    ModuleWindow(WindowContext& context, const ModuleInfo& module);
 
-    Module module() const { return module_; }
+    /// The module that is loaded; null when there is none.
+    static ModuleWindow* loadedIn(const WindowRegistry& windows);
+
+    const ModuleInfo& module() const { return module_; }
+    QWidget& widget() override { return *this; }
 
     /// The load routine: options, tray icon, the module's own work, then whether to show.
-    void load();
+    void load() override;
 
-    /// Goes to another module: icon off, target loaded and shown, this window unloaded for real.
-    void handOverTo(Module target);
+    void unload() override;
+    void showNormalState() override;
 
-    /// Sets the window state to normal and shows the window.
-    void showNormalState();
+    /// Goes to the module whose window has that name: icon off, target loaded and shown, this window unloaded for real.
+    void handOverTo(std::string_view target);
 
     /// The way back from the tray; a module that has more to do than show itself adds it.
     virtual void returnFromTray() { showNormalState(); }
 
     /// Ends the program.
     void UnloadAllForms();
-
-    /// Unloads for real while the program ends.
-    void unloadAtExit();
 
     /// Hides to the tray, or to the taskbar when there is no tray to come back from.
     void hideToTray();
@@ -49,6 +51,9 @@ public:
     bool isLoaded() const;
 
     CtxSysTray& ctxSysTray1() { return tray_; }
+
+    /// Adds the icon, with the program's name as its tip while tips are off.
+    void addTrayIcon();
 
     /// The action of a menu entry by its control name; null when there is none. The popup's entries come first.
     QAction* menuAction(std::string_view name) const;
@@ -70,9 +75,11 @@ protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
-    Process& process() const { return process_; }
-    ProcessRecord& record() const { return process_.record; }
-    DesktopServices& desktop() const { return process_.desktop; }
+    WindowContext& context() const { return context_; }
+    ShellState& state() const { return context_.state; }
+    OptionsStore& options() const { return context_.options; }
+    WindowRegistry& windows() const { return context_.windows; }
+    DesktopServices& desktop() const { return context_.desktop; }
 
 private:
     void decideShowing();
@@ -81,14 +88,14 @@ private:
     void releaseTip();
     void onTrayLost();
     void tellMissingTray();
-    void unload();
+    void closeOrUnload();
     void minimised();
-    void run(Command command, Module target, std::string_view name);
+    void run(Command command, std::string_view target, std::string_view name);
     void connectButton(const ButtonRow& row);
     void addEntries(QMenu* menu, const Menu& table);
 
-    Process& process_;
-    Module module_;
+    WindowContext& context_;
+    const ModuleInfo& module_;
     bool unloadForReal_ = false;
     QMenu iconMenu_;
     CtxSysTray tray_;

@@ -2,10 +2,12 @@
 #include "shell/windows/notif.h"
 
 #include "shell/popup_places.h"
-#include "shell/windows/look.h"
+#include "shell/windows/popup_pictures.h"
 #include "shell/windows/screen_measures.h"
-#include "shell/windows/topmost.h"
 #include "ui_notif.h"
+#include "widgets/conversions.h"
+#include "widgets/look.h"
+#include "widgets/topmost.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -48,7 +50,8 @@ void waitUntil(const QElapsedTimer& clock, qint64 microseconds) {
 
 // The window manager has no say over this window: one that begins below the screen would be brought onto it, and a
 // notification is neither to be listed nor to be given the focus.
-Notif::Notif(Process& process) : SecondaryWindow(process, smallWindow), ui_(std::make_unique<Ui::Notif>()) {
+Notif::Notif(WindowContext& context) : SecondaryWindow(context, smallWindow), ui_(std::make_unique<Ui::Notif>()) {
+    openPopupPictures();
     ui_->setupUi(this);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFocusPolicy(Qt::NoFocus);
@@ -65,23 +68,23 @@ Notif::Notif(Process& process) : SecondaryWindow(process, smallWindow), ui_(std:
 Notif::~Notif() = default;
 
 void Notif::load() {
-    if (record().shell.notifOpen) {
+    if (state().notifOpen) {
         SlideForm(*this, down);
-        desktop().events.letRun();
+        desktop().events.processEvents();
     }
     takeSize();
     const ScreenMeasures screen = measuresOf(QGuiApplication::primaryScreen());
-    top_ = notifStart(screen);
+    top_ = notifStartTop(screen);
     move(notifLeft(screen, width()), top_);
     SlideForm(*this, up);
 }
 
 void Notif::onUnload() {
-    record().shell.notifOpen = false;
+    state().notifOpen = false;
 }
 
 void Notif::SlideForm(QWidget& Ventana, int Direction) {
-    if (!record().shell.notifOpen) {
+    if (!state().notifOpen) {
         takeSize();
         if (Direction == up) return slideUp(Ventana);
         if (Direction != down) return;
@@ -90,7 +93,7 @@ void Notif::SlideForm(QWidget& Ventana, int Direction) {
 }
 
 void Notif::takeSize() {
-    const auto characters = QString::fromStdString(record().shell.alertText).toUcs4().size();
+    const auto characters = widgets::qtText(state().notificationText).toUcs4().size();
     const NotifSize size = notifSize(static_cast<std::size_t>(characters));
     ui_->Picture1->setBack(backs.at(static_cast<std::size_t>(size.back)));
     ui_->mTexto->setContentsMargins(0, 0, size.back == NotifBack::small ? moonWidth : rightRim, 0);
@@ -99,20 +102,20 @@ void Notif::takeSize() {
 
 void Notif::slideUp(QWidget& Ventana) {
     const ScreenMeasures screen = measuresOf(QGuiApplication::primaryScreen());
-    ui_->mTexto->setText(QString::fromStdString(record().shell.alertText));
+    ui_->mTexto->setText(widgets::qtText(state().notificationText));
     fitText();
     Ventana.move(notifLeft(screen, Ventana.width()), top_);
     Ventana.show();
-    if (!slide(Ventana, -1, [&] { return notifStanding(screen, Ventana.height()); })) return;
-    record().shell.notifOpen = true;
-    Topmost(Ventana);
+    if (!slide(Ventana, -1, [&] { return notifTop(screen, Ventana.height()); })) return;
+    state().notifOpen = true;
+    widgets::Topmost(Ventana);
 }
 
 void Notif::slideDown(QWidget& Ventana) {
     const ScreenMeasures screen = measuresOf(QGuiApplication::primaryScreen());
-    NotTopmost(Ventana);
-    slide(Ventana, 1, [&] { return notifGone(screen, Ventana.height()); });
-    record().shell.notifOpen = false;
+    widgets::NotTopmost(Ventana);
+    slide(Ventana, 1, [&] { return notifHiddenTop(screen, Ventana.height()); });
+    state().notifOpen = false;
 }
 
 /// One pixel a step, and all events at each. The goal is asked for anew, since a slide inside this one may have given
@@ -124,8 +127,8 @@ bool Notif::slide(QWidget& Ventana, int step, const std::function<int()>& goal) 
     for (qint64 steps = 1; step * (goal() - top_) > 0; ++steps) {
         top_ += step;
         Ventana.move(Ventana.x(), top_);
-        desktop().events.letRun();
-        if (record().shell.closingAll || !isLoaded()) return false;
+        desktop().events.processEvents();
+        if (state().closingAll || !isLoaded()) return false;
         waitUntil(clock, steps * pace);
     }
     return true;
@@ -169,8 +172,8 @@ void Notif::layOut() {
 
 void Notif::onCloseMark() {
     SlideForm(*this, down);
-    record().shell.notifOpen = false;
-    desktop().events.letRun();
+    state().notifOpen = false;
+    desktop().events.processEvents();
     unload();
 }
 

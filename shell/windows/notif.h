@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 
 namespace Ui {
 class Notif;
@@ -18,7 +19,9 @@ class Notif : public SecondaryWindow {
     Q_OBJECT
 
 public:
-    explicit Notif(Process& process);
+    static constexpr std::string_view windowName = "Notif";
+
+    explicit Notif(WindowContext& context);
     ~Notif() override;
 
     void load() override;

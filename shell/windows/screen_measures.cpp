@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/screen_measures.h"
 
-#include "platform/qt/panel_position.h"
+#include "desktop/panel_position.h"
 
 #include <QScreen>
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/secondary_window.h"
 
-#include "shell/windows/focused_button.h"
-#include "shell/windows/module_window.h"
 #include "shell/windows/window_place.h"
 #include "shell/windows/window_registry.h"
+#include "widgets/focused_button.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -13,15 +12,15 @@
 
 namespace velmoriax::shell {
 
-SecondaryWindow::SecondaryWindow(Process& process, Qt::WindowFlags flags) :
-    QWidget(nullptr, flags), process_(process) {}
+SecondaryWindow::SecondaryWindow(WindowContext& context, Qt::WindowFlags flags) :
+    QWidget(nullptr, flags), context_(context) {}
 
 void SecondaryWindow::unload() {
     if (unloaded_) return;
     unloaded_ = true;
     hide();
     onUnload();
-    process_.windows.release(*this);
+    windows().release(*this);
 }
 
 void SecondaryWindow::showNormalState() {
@@ -32,10 +31,11 @@ void SecondaryWindow::showNormalState() {
     activateWindow();
 }
 
-void SecondaryWindow::standOverModule() {
-    const ModuleWindow* module = process_.windows.loadedModule();
-    const bool inSight = module && module->isVisible() && !module->isMinimized();
-    standOver(*this, inSight ? module->frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry());
+void SecondaryWindow::centreOverModule() {
+    ManagedWindow* module = windows().loadedModule();
+    const bool inSight = module && module->widget().isVisible() && !module->widget().isMinimized();
+    centreOver(*this,
+               inSight ? module->widget().frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry());
 }
 
 void SecondaryWindow::closeEvent(QCloseEvent* event) {
@@ -46,7 +46,7 @@ void SecondaryWindow::closeEvent(QCloseEvent* event) {
 void SecondaryWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         close();
-    else if (!pressFocusedButton(*this, *event))
+    else if (!widgets::pressFocusedButton(*this, *event))
         QWidget::keyPressEvent(event);
 }
 

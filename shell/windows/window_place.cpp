@@ -66,7 +66,7 @@ QRect onScreen(QRect window) {
     return window;
 }
 
-void standOver(QWidget& window, const QRect& place) {
+void centreOver(QWidget& window, const QRect& place) {
     if (!window.testAttribute(Qt::WA_Resized))
         window.adjustSize(); // else it has not taken the size of its controls yet
     window.move(onScreen({place.center() - window.rect().center(), window.size()}).topLeft());

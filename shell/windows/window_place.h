@@ -19,6 +19,6 @@ void moveToPlace(QWidget& window, const WindowPlace& place);
 QRect onScreen(QRect window);
 
 /// Puts a window that is not shown yet over the middle of a place, as far as it fits there on the screen.
-void standOver(QWidget& window, const QRect& place);
+void centreOver(QWidget& window, const QRect& place);
 
 } // namespace velmoriax::shell

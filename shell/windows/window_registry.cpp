@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/window_registry.h"
 
-#include "shell/windows/module_window.h"
-#include "shell/windows/secondary_window.h"
-
 #include <QTimer>
+#include <QWidget>
 
 #include <algorithm>
 #include <utility>
@@ -13,89 +11,88 @@ namespace velmoriax::shell {
 
 namespace {
 
-constexpr int lookAgainMs = 50;
+constexpr int retryDeletionMs = 50;
 
 } // namespace
 
 WindowRegistry::WindowRegistry(const platform::PendingEvents& events) : events_(events) {}
 
 WindowRegistry::~WindowRegistry() {
-    for (QWidget* window : buried_) delete window;
-    for (const auto& [name, window] : loadedSecondaries_) delete window;
-    for (ModuleWindow* window : loadedModules_) delete window;
+    released_.clear();
+    // Off the list first: a window that goes may ask for the others.
+    while (!loaded_.empty()) {
+        const Loaded last = std::move(loaded_.back());
+        loaded_.pop_back();
+    }
 }
 
-void WindowRegistry::addModule(Module module, ModuleFactory factory) {
-    moduleFactories_[module] = std::move(factory);
+void WindowRegistry::addModule(const ModuleInfo& module, Factory factory) {
+    modules_.push_back(&module);
+    addSecondary(module.windowName, std::move(factory));
 }
 
-void WindowRegistry::addSecondary(const std::string& name, SecondaryFactory factory) {
-    secondaryFactories_[name] = std::move(factory);
+void WindowRegistry::addSecondary(std::string_view name, Factory factory) {
+    factories_.insert_or_assign(std::string(name), std::move(factory));
 }
 
-ModuleWindow& WindowRegistry::touch(Module module, Process& process) {
-    const auto found = std::ranges::find(loadedModules_, module, &ModuleWindow::module);
-    if (found != loadedModules_.end()) return **found;
-    ModuleWindow* window = moduleFactories_.at(module)(process);
-    loadedModules_.push_back(window);
-    window->load();
-    return *window;
+ManagedWindow& WindowRegistry::touch(std::string_view name) {
+    if (ManagedWindow* window = loaded(name)) return *window;
+    auto created = factories_.find(name)->second();
+    ManagedWindow& window = *created;
+    loaded_.push_back({std::string(name), isModule(name), std::move(created)});
+    window.load();
+    return window;
 }
 
-SecondaryWindow& WindowRegistry::touch(const std::string& name, Process& process) {
-    if (SecondaryWindow* window = loaded(name)) return *window;
-    SecondaryWindow* window = secondaryFactories_.at(name)(process);
-    loadedSecondaries_[name] = window;
-    window->load();
-    return *window;
+ManagedWindow* WindowRegistry::loaded(std::string_view name) const {
+    const auto found = std::ranges::find(loaded_, name, &Loaded::name);
+    return found == loaded_.end() ? nullptr : found->window.get();
 }
 
-SecondaryWindow* WindowRegistry::loaded(const std::string& name) const {
-    const auto found = loadedSecondaries_.find(name);
-    return found == loadedSecondaries_.end() ? nullptr : found->second;
+void WindowRegistry::unload(std::string_view name) {
+    if (ManagedWindow* window = loaded(name)) window->unload();
 }
 
-void WindowRegistry::unload(const std::string& name) {
-    if (SecondaryWindow* window = loaded(name)) window->unload();
+ManagedWindow* WindowRegistry::loadedModule() const {
+    const auto found = std::find_if(loaded_.rbegin(), loaded_.rend(), [](const Loaded& each) { return each.isModule; });
+    return found == loaded_.rend() ? nullptr : found->window.get();
 }
 
-ModuleWindow* WindowRegistry::loadedModule() const {
-    return loadedModules_.empty() ? nullptr : loadedModules_.back();
+bool WindowRegistry::isLoaded(const ManagedWindow& window) const {
+    return std::ranges::any_of(loaded_, [&](const Loaded& each) { return each.window.get() == &window; });
 }
 
-bool WindowRegistry::isLoaded(const ModuleWindow& window) const {
-    return std::ranges::find(loadedModules_, &window) != loadedModules_.end();
+bool WindowRegistry::isModule(std::string_view name) const {
+    return std::ranges::find(modules_, name, &ModuleInfo::windowName) != modules_.end();
 }
 
-void WindowRegistry::release(ModuleWindow& window) {
-    std::erase(loadedModules_, &window);
-    bury(window);
+void WindowRegistry::release(ManagedWindow& window) {
+    const auto found = std::ranges::find_if(loaded_, [&](const Loaded& each) { return each.window.get() == &window; });
+    if (found == loaded_.end()) return;
+    for (QTimer* timer : window.widget().findChildren<QTimer*>()) timer->stop();
+    released_.push_back(std::move(found->window));
+    loaded_.erase(found);
+    if (released_.size() == 1) QTimer::singleShot(0, this, &WindowRegistry::deleteReleased);
 }
 
-void WindowRegistry::release(SecondaryWindow& window) {
-    std::erase_if(loadedSecondaries_, [&](const auto& entry) { return entry.second == &window; });
-    bury(window);
-}
-
-void WindowRegistry::bury(QWidget& window) {
-    for (QTimer* timer : window.findChildren<QTimer*>()) timer->stop();
-    buried_.push_back(&window);
-    if (buried_.size() == 1) QTimer::singleShot(0, this, &WindowRegistry::destroyBuried);
-}
-
-void WindowRegistry::destroyBuried() {
-    if (events_.areRunning()) {
-        QTimer::singleShot(lookAgainMs, this, &WindowRegistry::destroyBuried);
+void WindowRegistry::deleteReleased() {
+    if (events_.isProcessing()) {
+        QTimer::singleShot(retryDeletionMs, this, &WindowRegistry::deleteReleased);
         return;
     }
-    for (QWidget* window : std::exchange(buried_, {})) delete window;
+    std::exchange(released_, {}).clear();
+}
+
+void WindowRegistry::unloadAll(bool modules) {
+    std::vector<std::string> names;
+    for (const Loaded& each : loaded_)
+        if (each.isModule == modules) names.push_back(each.name);
+    for (const std::string& name : names) unload(name);
 }
 
 void WindowRegistry::unloadAll() {
-    const auto modulesNow = loadedModules_;
-    for (ModuleWindow* window : modulesNow) window->unloadAtExit();
-    const auto secondariesNow = loadedSecondaries_;
-    for (const auto& [name, window] : secondariesNow) window->unload();
+    unloadAll(true);
+    unloadAll(false);
 }
 
 } // namespace velmoriax::shell

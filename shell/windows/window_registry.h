@@ -3,71 +3,98 @@
 
 #include "platform/pending_events.h"
 #include "shell/modules.h"
+#include "shell/windows/managed_window.h"
 
-#include <QWidget>
+#include <QObject>
 
 #include <functional>
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velmoriax::shell {
 
-class ModuleWindow;
-class SecondaryWindow;
-struct Process;
-
-/// The windows of the process by name. A window is a single instance that comes into being at its first touch; rooms
-/// know one another's windows by name alone.
+/// The windows of the program by name. Within a subsystem a window is asked for by its type, which tells its name as
+/// `windowName`; the windows of other subsystems are known by name alone.
 class WindowRegistry : public QObject {
 public:
-    using ModuleFactory = std::function<ModuleWindow*(Process&)>;
-    using SecondaryFactory = std::function<SecondaryWindow*(Process&)>;
+    using Factory = std::function<std::unique_ptr<ManagedWindow>()>;
 
     explicit WindowRegistry(const platform::PendingEvents& events);
     ~WindowRegistry() override;
 
-    void addModule(Module module, ModuleFactory factory);
-    void addSecondary(const std::string& name, SecondaryFactory factory);
+    // Which windows there are.
 
-    /// The module's window; the first touch creates it and runs its load routine. What runs inside the load may unload
-    /// it again.
-    ModuleWindow& touch(Module module, Process& process);
+    void addModule(const ModuleInfo& module, Factory factory);
+    void addSecondary(std::string_view name, Factory factory);
 
-    /// The secondary window of that name, created and loaded at its first touch.
-    SecondaryWindow& touch(const std::string& name, Process& process);
+    /// Adds the secondary window `Window`, which is made of these arguments.
+    template<typename Window, typename... Arguments>
+    void add(Arguments&... arguments) {
+        addSecondary(Window::windowName, [&arguments...] { return std::make_unique<Window>(arguments...); });
+    }
 
-    /// The secondary window if it is loaded.
-    SecondaryWindow* loaded(const std::string& name) const;
+    /// Adds the module whose window is `Window`.
+    template<typename Window, typename... Arguments>
+    void add(const ModuleInfo& module, Arguments&... arguments) {
+        addModule(module, [&arguments...] { return std::make_unique<Window>(arguments...); });
+    }
 
-    /// Unloads a secondary window; does nothing when it is not loaded.
-    void unload(const std::string& name);
+    /// The modules in the order in which they were added.
+    const ModuleList& modules() const { return modules_; }
 
-    /// The module that is loaded; the latest one while a hand-over is under way. Null before the first.
-    ModuleWindow* loadedModule() const;
-    const std::vector<ModuleWindow*>& loadedModules() const { return loadedModules_; }
+    // The windows that are loaded.
 
-    bool isLoaded(const ModuleWindow& window) const;
+    /// The window of that name; the first touch creates it and runs its load routine. What runs inside the load may
+    /// unload it again. The name has to be a registered one.
+    ManagedWindow& touch(std::string_view name);
 
-    /// Takes a window off the list. It is destroyed when control is back in the outermost event loop: a search or a
-    /// slide that let events run may still be at work in it.
-    void release(ModuleWindow& window);
-    void release(SecondaryWindow& window);
+    template<typename Window>
+    Window& touch() {
+        return dynamic_cast<Window&>(touch(Window::windowName));
+    }
+
+    /// The window if it is loaded, else null.
+    ManagedWindow* loaded(std::string_view name) const;
+
+    template<typename Window>
+    Window* loaded() const {
+        return dynamic_cast<Window*>(loaded(Window::windowName));
+    }
+
+    /// Unloads a window; does nothing when it is not loaded.
+    void unload(std::string_view name);
+
+    /// The module that is loaded; the latest one during a hand-over. Null before the first.
+    ManagedWindow* loadedModule() const;
+
+    bool isLoaded(const ManagedWindow& window) const;
+
+    /// Takes a window off the list. It is deleted when control is back in the outermost event loop: a search or a slide
+    /// that processes events may still be at work in it.
+    void release(ManagedWindow& window);
 
     /// Unloads everything: the modules, then the windows beside them.
     void unloadAll();
 
 private:
-    void bury(QWidget& window);
-    void destroyBuried();
+    struct Loaded {
+        std::string name;
+        bool isModule;
+        std::unique_ptr<ManagedWindow> window;
+    };
+
+    bool isModule(std::string_view name) const;
+    void unloadAll(bool modules);
+    void deleteReleased();
 
     const platform::PendingEvents& events_;
-    std::vector<QWidget*> buried_;
-    std::map<Module, ModuleFactory> moduleFactories_;
-    std::map<std::string, SecondaryFactory> secondaryFactories_;
-    std::vector<ModuleWindow*> loadedModules_;
-    std::map<std::string, SecondaryWindow*> loadedSecondaries_;
+    ModuleList modules_;
+    std::map<std::string, Factory, std::less<>> factories_;
+    std::vector<Loaded> loaded_; ///< in the order of their creation
+    std::vector<std::unique_ptr<ManagedWindow>> released_;
 };
 
 } // namespace velmoriax::shell

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sky/windows/frm_moon_phase.h"
 
-#include "shell/windows/look.h"
-#include "shell/windows/topmost.h"
 #include "sky/moon_engine.h"
 #include "sky/moon_illumination.h"
 #include "sky/moon_texts.h"
 #include "sky/time_zone_shift.h"
 #include "ui_frm_moon_phase.h"
+#include "widgets/conversions.h"
+#include "widgets/look.h"
+#include "widgets/topmost.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -24,19 +25,15 @@ constexpr double frameRadius = 6;
 constexpr Qt::WindowFlags floating =
     Qt::Tool | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus;
 
-QString text(const std::string& utf8) {
-    return QString::fromStdString(utf8);
-}
-
 } // namespace
 
-FrmMoonPhase::FrmMoonPhase(shell::Process& process) :
-    SecondaryWindow(process, floating), ui_(std::make_unique<Ui::FrmMoonPhase>()), timer1_(this) {
+FrmMoonPhase::FrmMoonPhase(shell::WindowContext& context, SkyState& sky) :
+    SecondaryWindow(context, floating), sky_(sky), ui_(std::make_unique<Ui::FrmMoonPhase>()), timer1_(this) {
     ui_->setupUi(this);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setMouseTracking(true);
-    shell::look::asTitle(*ui_->LabelResum);
-    shell::look::asQuiet(*ui_->LabelAd);
+    widgets::look::asTitle(*ui_->LabelResum);
+    widgets::look::asQuiet(*ui_->LabelAd);
     ui_->LabelDetall->installEventFilter(this);
     timer1_.setObjectName(QStringLiteral("Timer1"));
     connect(&timer1_, &QTimer::timeout, this, &FrmMoonPhase::tick);
@@ -45,30 +42,29 @@ FrmMoonPhase::FrmMoonPhase(shell::Process& process) :
 FrmMoonPhase::~FrmMoonPhase() = default;
 
 void FrmMoonPhase::load() {
-    shell::Topmost(*this);
+    widgets::Topmost(*this);
     timer1_.start(tickMs);
     tick();
 }
 
 void FrmMoonPhase::tick() {
     moonMoment_ = localToUniversal(desktop().clock.now(), desktop().zone);
-    moonIllumination(moonMoment_, record().sky);
+    moonIllumination(moonMoment_, sky_);
     refreshMoonDetails();
 }
 
 void FrmMoonPhase::refreshMoonDetails() {
-    const MoonDetails details =
-        sky::refreshMoonDetails(MoonEngine(desktop().events), moonMoment_, showPrevious_, record().sky);
+    const MoonDetails details = sky::refreshMoonDetails(MoonEngine(desktop().events), moonMoment_, showPrevious_, sky_);
     if (!isLoaded()) return; // events have run inside, the end of this window among them
-    ui_->LabelDetall->setText(text(details.labelDetall));
-    ui_->LabelInfo->setText(text(details.labelInfo));
-    ui_->LabelResum->setText(text(details.labelResum));
-    ui_->LabelAd->setText(text(details.labelAd));
+    ui_->LabelDetall->setText(widgets::qtText(details.labelDetall));
+    ui_->LabelInfo->setText(widgets::qtText(details.labelInfo));
+    ui_->LabelResum->setText(widgets::qtText(details.labelResum));
+    ui_->LabelAd->setText(widgets::qtText(details.labelAd));
 }
 
 void FrmMoonPhase::LabelDetall_Click() {
     showPrevious_ = !showPrevious_;
-    ui_->LabelAd->setText(text(moonListHint(!showPrevious_))); // the refresh writes over it at once
+    ui_->LabelAd->setText(widgets::qtText(moonListHint(!showPrevious_))); // the refresh writes over it at once
     refreshMoonDetails();
 }
 
@@ -91,9 +87,9 @@ void FrmMoonPhase::onUnload() {
 
 void FrmMoonPhase::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), shell::look::panel());
+    painter.fillRect(rect(), widgets::look::panel());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(shell::look::gold());
+    painter.setPen(widgets::look::gold());
     painter.drawRoundedRect(QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5), frameRadius, frameRadius);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/windows/secondary_window.h"
+#include "sky/sky_state.h"
 
 #include <QTimer>
 
@@ -20,9 +21,9 @@ class FrmMoonPhase : public shell::SecondaryWindow {
     Q_OBJECT
 
 public:
-    static constexpr const char* windowName = "FrmMoonPhase";
+    static constexpr std::string_view windowName = "FrmMoonPhase";
 
-    explicit FrmMoonPhase(shell::Process& process);
+    FrmMoonPhase(shell::WindowContext& context, SkyState& sky);
     ~FrmMoonPhase() override;
 
     void load() override;
@@ -41,6 +42,7 @@ private:
     void tick();
     void refreshMoonDetails();
 
+    SkyState& sky_;
     std::unique_ptr<Ui::FrmMoonPhase> ui_;
     QTimer timer1_;
     base::DateValue moonMoment_ = 0; ///< the present in universal time

@@ -5,13 +5,13 @@
 
 namespace velmoriax::tarot {
 
-void showCardDescription(CardState& state, platform::MessageBoxes& boxes) {
+void showCardDescription(const CardState& cards, shell::ShellState& flags, platform::MessageBoxes& boxes) {
     std::string description;
-    for (const std::string_view piece : cardDescriptionPieces(state.currentCard)) description += piece;
+    for (const std::string_view piece : cardDescriptionPieces(cards.currentCard)) description += piece;
     if (description.empty()) return;
-    state.cardDescriptionOpen = true;
-    boxes.show(platform::BoxIcon::information, description, std::string(majorCard(state.currentCard).tipName));
-    state.cardDescriptionOpen = false;
+    flags.cardDescriptionOpen = true;
+    boxes.show(platform::BoxIcon::information, description, std::string(majorCard(cards.currentCard).tipName));
+    flags.cardDescriptionOpen = false;
 }
 
 } // namespace velmoriax::tarot

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/message_boxes.h"
+#include "shell/shell_state.h"
 #include "tarot/card_catalogue.h"
 
 namespace velmoriax::tarot {
@@ -11,6 +12,6 @@ inline constexpr double cardCornerShare = 0.045;
 
 /// Shows the description of `currentCard` in an information box, titled with the card's name, with
 /// `cardDescriptionOpen` up while it stands. Outside 1 to 22 nothing is shown.
-void showCardDescription(CardState& state, platform::MessageBoxes& boxes);
+void showCardDescription(const CardState& cards, shell::ShellState& flags, platform::MessageBoxes& boxes);
 
 } // namespace velmoriax::tarot

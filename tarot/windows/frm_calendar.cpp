@@ -2,18 +2,21 @@
 #include "tarot/windows/frm_calendar.h"
 
 #include "base/date_text.h"
-#include "shell/windows/look.h"
-#include "shell/windows/moon_picture.h"
-#include "shell/windows/night_calendar.h"
 #include "sky/moon_engine.h"
+#include "sky/moon_pictures.h"
 #include "sky/moon_texts.h"
 #include "sky/zodiac.h"
 #include "tarot/day_view.h"
+#include "tarot/modules.h"
 #include "tarot/windows/card_description.h"
 #include "tarot/windows/card_picture.h"
 #include "tarot/windows/sign_display.h"
 #include "tarot/windows/tarot_pictures.h"
 #include "ui_frm_calendar.h"
+#include "widgets/calendar.h"
+#include "widgets/conversions.h"
+#include "widgets/look.h"
+#include "widgets/turned_picture.h"
 
 #include <QFocusEvent>
 
@@ -23,52 +26,40 @@ namespace {
 
 constexpr int signGap = 8; ///< between the pane about the sign and what it leaves free
 
-QString text(const std::string& utf8) {
-    return QString::fromStdString(utf8);
-}
-
-QDate toDate(base::CivilDate date) {
-    return {date.year, date.month, date.day};
-}
-
-base::CivilDate civilDate(QDate date) {
-    return {date.year(), date.month(), date.day()};
-}
-
 } // namespace
 
-FrmCalendar::FrmCalendar(shell::Process& process) :
-    ModuleWindow(process, shell::Module::anotherDay), ui_(std::make_unique<Ui::FrmCalendar>()) {
+FrmCalendar::FrmCalendar(shell::WindowContext& context, TarotContext& tarot) :
+    ModuleWindow(context, anotherDayModule), tarot_(tarot), ui_(std::make_unique<Ui::FrmCalendar>()) {
     openTarotPictures();
     ui_->setupUi(this);
-    dressControls();
+    setUpControls();
     buildNavigation();
     connectControls();
 }
 
 FrmCalendar::~FrmCalendar() = default;
 
-void FrmCalendar::dressControls() {
-    shell::makeNightCalendar(*ui_->Calendar1);
-    shell::look::asTitle(*ui_->LabelZod);
-    for (QLabel* label : {ui_->LblFecha, ui_->LabelFase}) shell::look::asQuiet(*label);
+void FrmCalendar::setUpControls() {
+    widgets::setUpCalendar(*ui_->Calendar1);
+    widgets::look::asTitle(*ui_->LabelZod);
+    for (QLabel* label : {ui_->LblFecha, ui_->LabelFase}) widgets::look::asQuiet(*label);
     ui_->Imgfechasel->setCornerRadius(cardCornerShare);
     ui_->Imgfechasel->setClickable(true);
-    for (shell::PictureBox* picture : {ui_->ImgLuna, ui_->ImageZod}) picture->setCornerRadius(roundPicture);
+    for (widgets::PictureBox* picture : {ui_->ImgLuna, ui_->ImageZod}) picture->setCornerRadius(roundPicture);
     ui_->ImageZod->installEventFilter(this);
 }
 
 void FrmCalendar::connectControls() {
     connect(ui_->Calendar1, &QCalendarWidget::clicked, this, &FrmCalendar::pick);
     connect(ui_->Calendar1, &QCalendarWidget::activated, this, &FrmCalendar::pick);
-    connect(ui_->Imgfechasel, &shell::PictureBox::clicked, this, &FrmCalendar::describeCard);
+    connect(ui_->Imgfechasel, &widgets::PictureBox::clicked, this, &FrmCalendar::describeCard);
     connect(ui_->ImageAlert, &QToolButton::clicked, this, &FrmCalendar::tellChangeOfSign);
-    connect(ui_->ImageZod, &shell::PictureBox::pressed, this, &FrmCalendar::showSignText);
-    connect(ui_->ImageZod, &shell::PictureBox::released, ui_->TextZod, &QWidget::hide);
+    connect(ui_->ImageZod, &widgets::PictureBox::pressed, this, &FrmCalendar::showSignText);
+    connect(ui_->ImageZod, &widgets::PictureBox::released, ui_->TextZod, &QWidget::hide);
 }
 
 void FrmCalendar::ownLoad() {
-    ui_->Calendar1->setSelectedDate(toDate(base::civilDateOf(desktop().clock.now())));
+    ui_->Calendar1->setSelectedDate(widgets::qtDate(base::civilDateOf(desktop().clock.now())));
     showOwnBack(*ui_->Imgfechasel);
     ui_->Calendar1->setFocus();
 }
@@ -76,9 +67,9 @@ void FrmCalendar::ownLoad() {
 // ---- A day is picked
 
 void FrmCalendar::pick(QDate day) {
-    const base::CivilDate date = civilDate(day);
-    sky::clearChange(record().sky.anotherDaySign);
-    ui_->TxtFecha->setText(text(chosenDateLine(date)));
+    const base::CivilDate date = widgets::civilDate(day);
+    sky::clearChange(tarot_.sky.anotherDaySign);
+    ui_->TxtFecha->setText(widgets::qtText(chosenDateLine(date)));
     sumcartdia(date);
     showSignOf(date);
     drawDateMoon(date);
@@ -86,7 +77,7 @@ void FrmCalendar::pick(QDate day) {
 
 void FrmCalendar::sumcartdia(base::CivilDate date) {
     const DrawnCard drawn = tarot::sumcartdia(base::shortDateText(date), desktop().files.applicationDirectory(),
-                                              record().options.holders.tipocartas, record().cards)
+                                              options().holders.tipocartas, tarot_.state.cards)
                                 .drawn;
     dateCard_ = drawn.card;
     showCard(*ui_->Imgfechasel, drawn, desktop().files);
@@ -94,37 +85,38 @@ void FrmCalendar::sumcartdia(base::CivilDate date) {
 
 void FrmCalendar::showSignOf(base::CivilDate date) {
     const sky::SignReading& sign =
-        sky::signoZodCalendar(desktop().files, date, record().options.holders.hemisferio, record().sky);
+        sky::signoZodCalendar(desktop().files, date, options().holders.hemisferio, tarot_.sky);
     showSign(sign, desktop().files, {*ui_->ImageZod, *ui_->LabelZod, *ui_->ImageAlert});
 }
 
 void FrmCalendar::drawDateMoon(base::CivilDate date) {
-    const sky::DateMoon moon = sky::drawDateMoon(sky::MoonEngine(desktop().events), date, record().sky);
+    const sky::DateMoon moon = sky::drawDateMoon(sky::MoonEngine(desktop().events), date, tarot_.sky);
     if (!isLoaded()) return; // events have run inside, the end of this window among them
     if (!moon.pictureName.empty())
-        ui_->ImgLuna->setPicture(
-            shell::moonPicture(desktop().files, moon.pictureName, record().options.holders.hemisferio));
-    ui_->ImgLuna->setTip(text(moon.tip));
+        ui_->ImgLuna->setPicture(widgets::loadChoice(
+            desktop().files, sky::moonPicture(desktop().files, moon.pictureName, options().holders.hemisferio)));
+    ui_->ImgLuna->setTip(widgets::qtText(moon.tip));
     ui_->LabelFase->show();
 }
 
 // ---- What is told about it
 
 void FrmCalendar::describeCard() {
-    record().cards.currentCard = dateCard_;
-    showCardDescription(record().cards, desktop().boxes);
+    tarot_.state.cards.currentCard = dateCard_;
+    showCardDescription(tarot_.state.cards, state(), desktop().boxes);
 }
 
 void FrmCalendar::tellChangeOfSign() {
     desktop().boxes.show(platform::BoxIcon::information,
-                         sky::changeOfSignMessageCalendar(record().sky.anotherDaySign, desktop().zone), "Info");
+                         sky::changeOfSignMessageCalendar(tarot_.sky.anotherDaySign, desktop().zone), "Info");
 }
 
 void FrmCalendar::showSignText() {
     const QRect body = ui_->centralwidget->contentsRect();
     const int rightEdge = ui_->ImageZod->mapTo(ui_->centralwidget, QPoint()).x() - signGap;
     const QRect leftOfSign(body.topLeft(), QPoint(rightEdge, ui_->ARButtonHoy->y() - signGap));
-    ui_->TextZod->showIn(leftOfSign, text(sky::signDescription(desktop().files, record().sky.currentSignIndex)));
+    ui_->TextZod->showIn(leftOfSign,
+                         widgets::qtText(sky::signDescription(desktop().files, tarot_.sky.currentSignIndex)));
 }
 
 bool FrmCalendar::eventFilter(QObject* watched, QEvent* event) {

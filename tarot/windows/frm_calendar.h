@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/windows/module_window.h"
+#include "tarot/windows/tarot_context.h"
 
 #include <QDate>
 
@@ -19,7 +20,7 @@ class FrmCalendar : public shell::ModuleWindow {
     Q_OBJECT
 
 public:
-    explicit FrmCalendar(shell::Process& process);
+    FrmCalendar(shell::WindowContext& context, TarotContext& tarot);
     ~FrmCalendar() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -29,7 +30,7 @@ protected:
     void onHidden() override;
 
 private:
-    void dressControls();
+    void setUpControls();
     void connectControls();
 
     void pick(QDate day);
@@ -41,6 +42,7 @@ private:
     void tellChangeOfSign();
     void showSignText();
 
+    TarotContext& tarot_;
     std::unique_ptr<Ui::FrmCalendar> ui_;
     std::int16_t dateCard_ = 0; ///< of the picked day; 0 before the first pick
 };

@@ -2,13 +2,8 @@
 #include "tarot/windows/frm_carta_dia.h"
 
 #include "base/date_text.h"
-#include "biorhythm/bio_gauge.h"
-#include "biorhythm/profile_files.h"
 #include "shell/window_position.h"
-#include "shell/windows/look.h"
-#include "shell/windows/moon_picture.h"
 #include "shell/windows/notifications.h"
-#include "shell/windows/topmost.h"
 #include "shell/windows/window_place.h"
 #include "shell/windows/window_registry.h"
 #include "sky/moon_engine.h"
@@ -17,11 +12,16 @@
 #include "sky/windows/frm_moon_phase.h"
 #include "sky/zodiac.h"
 #include "tarot/drawn_card.h"
+#include "tarot/modules.h"
 #include "tarot/windows/card_description.h"
-#include "tarot/windows/hover_watch.h"
 #include "tarot/windows/sign_display.h"
 #include "tarot/windows/tarot_pictures.h"
 #include "ui_frm_carta_dia.h"
+#include "widgets/conversions.h"
+#include "widgets/hover_watch.h"
+#include "widgets/look.h"
+#include "widgets/topmost.h"
+#include "widgets/turned_picture.h"
 
 #include <QKeyEvent>
 
@@ -37,10 +37,6 @@ constexpr int signGap = 8;              ///< between the pane about the sign and
 constexpr double detailsBelowTop = 1.7; ///< where the moon details stand, in heights of their own
 constexpr std::string_view welcome = "Welcome to Velmoriax, change the birth date to calculate biorhythms.";
 
-QString text(const std::string& utf8) {
-    return QString::fromStdString(utf8);
-}
-
 void keepPlaceWhenHidden(QWidget& control) {
     QSizePolicy policy = control.sizePolicy();
     policy.setRetainSizeWhenHidden(true);
@@ -49,13 +45,13 @@ void keepPlaceWhenHidden(QWidget& control) {
 
 } // namespace
 
-FrmCartaDia::FrmCartaDia(shell::Process& process) :
-    ModuleWindow(process, shell::Module::cardOfDay), ui_(std::make_unique<Ui::FrmCartaDia>()),
+FrmCartaDia::FrmCartaDia(shell::WindowContext& context, TarotContext& tarot) :
+    ModuleWindow(context, cardOfDayModule), tarot_(tarot), ui_(std::make_unique<Ui::FrmCartaDia>()),
     krono_(kronoAfterMs, this), timerPlus_(this) {
-    record().sky.cardOfDaySign = {}; // the season that it told is not carried over to another window
+    tarot_.sky.cardOfDaySign = {}; // the season that it told is not carried over to another window
     openTarotPictures();
     ui_->setupUi(this);
-    dressControls();
+    setUpControls();
     buildNavigation();
     connectControls();
     watchHovers();
@@ -64,14 +60,14 @@ FrmCartaDia::FrmCartaDia(shell::Process& process) :
 
 FrmCartaDia::~FrmCartaDia() = default;
 
-void FrmCartaDia::dressControls() {
-    shell::look::asTitle(*ui_->LblDate);
-    shell::look::asTitle(*ui_->LabelZod);
+void FrmCartaDia::setUpControls() {
+    widgets::look::asTitle(*ui_->LblDate);
+    widgets::look::asTitle(*ui_->LabelZod);
     for (QLabel* label : {ui_->LblTime, ui_->LblUptime, ui_->LabelFase, ui_->LabelBioInfo})
-        shell::look::asQuiet(*label);
+        widgets::look::asQuiet(*label);
     ui_->ImgCartadia->setCornerRadius(cardCornerShare);
-    for (shell::PictureBox* picture : {ui_->ImgCartadia, ui_->ImgLuna}) picture->setClickable(true);
-    for (shell::PictureBox* picture : {ui_->ImgLuna, ui_->ImageZod}) picture->setCornerRadius(roundPicture);
+    for (widgets::PictureBox* picture : {ui_->ImgCartadia, ui_->ImgLuna}) picture->setClickable(true);
+    for (widgets::PictureBox* picture : {ui_->ImgLuna, ui_->ImageZod}) picture->setCornerRadius(roundPicture);
     ui_->ImgLuna->setTip(tr("Click para ver anteriores"));
     ui_->Imageasc->setPicture(QImage(QStringLiteral(":/tarot/trend_up.png")));
     ui_->Imageasc->setTip(tr("Upward trend"));
@@ -81,21 +77,21 @@ void FrmCartaDia::dressControls() {
 }
 
 void FrmCartaDia::connectControls() {
-    connect(ui_->ImgCartadia, &shell::PictureBox::clicked, this, &FrmCartaDia::describeCard);
-    connect(ui_->ImgLuna, &shell::PictureBox::clicked, this, &FrmCartaDia::clickMoon);
+    connect(ui_->ImgCartadia, &widgets::PictureBox::clicked, this, &FrmCartaDia::describeCard);
+    connect(ui_->ImgLuna, &widgets::PictureBox::clicked, this, &FrmCartaDia::clickMoon);
     connect(ui_->ImageAlert, &QToolButton::clicked, this, &FrmCartaDia::tellChangeOfSign);
     connect(ui_->PictActualize, &QToolButton::clicked, this, &FrmCartaDia::refresh);
 }
 
 void FrmCartaDia::watchHovers() {
-    auto* sign = new HoverWatch(*ui_->ImageZod, HoverWatch::Keys::whilePressed);
+    auto* sign = new widgets::HoverWatch(*ui_->ImageZod, widgets::HoverWatch::Keys::whilePressed);
     sign->setObjectName(QStringLiteral("zodHover"));
-    connect(sign, &HoverWatch::opened, this, &FrmCartaDia::showSignText);
-    connect(sign, &HoverWatch::closed, ui_->TextZod, &QWidget::hide);
-    auto* moon = new HoverWatch(*ui_->ImgLuna);
+    connect(sign, &widgets::HoverWatch::opened, this, &FrmCartaDia::showSignText);
+    connect(sign, &widgets::HoverWatch::closed, ui_->TextZod, &QWidget::hide);
+    auto* moon = new widgets::HoverWatch(*ui_->ImgLuna);
     moon->setObjectName(QStringLiteral("moonHover"));
-    connect(moon, &HoverWatch::opened, this, &FrmCartaDia::showMoonDetails);
-    connect(moon, &HoverWatch::closed, this, &FrmCartaDia::closeMoonDetails);
+    connect(moon, &widgets::HoverWatch::opened, this, &FrmCartaDia::showMoonDetails);
+    connect(moon, &widgets::HoverWatch::closed, this, &FrmCartaDia::closeMoonDetails);
 }
 
 void FrmCartaDia::prepareTimers() {
@@ -108,13 +104,14 @@ void FrmCartaDia::prepareTimers() {
 // ---- The load routine
 
 void FrmCartaDia::beforeOptions() {
-    if (const auto place = shell::storedPlace(record().options)) {
+    if (const auto place = shell::storedPlace(options())) {
         shell::moveToPlace(*this, *place);
-        desktop().events.letRun();
+        desktop().events.processEvents();
     }
 }
 
 void FrmCartaDia::ownLoad() {
+    options().readAtCardOfDayLoad();
     constexpr std::array steps{&FrmCartaDia::showDate,    &FrmCartaDia::showCardOfToday, &FrmCartaDia::showSignOfNow,
                                &FrmCartaDia::startTimers, &FrmCartaDia::drawDayMoon,     &FrmCartaDia::loadBirth,
                                &FrmCartaDia::DrawBioMedia};
@@ -125,22 +122,22 @@ void FrmCartaDia::ownLoad() {
 }
 
 void FrmCartaDia::showDate() {
-    ui_->LblDate->setText(text(cardOfDayDateLine(base::civilDateOf(desktop().clock.now()))));
+    ui_->LblDate->setText(widgets::qtText(cardOfDayDateLine(base::civilDateOf(desktop().clock.now()))));
 }
 
 void FrmCartaDia::showCardOfToday() {
     const std::string today = base::shortDateText(base::civilDateOf(desktop().clock.now()));
     const DrawnCard drawn =
-        sumcartdia(today, desktop().files.applicationDirectory(), record().options.holders.tipocartas, record().cards)
+        sumcartdia(today, desktop().files.applicationDirectory(), options().holders.tipocartas, tarot_.state.cards)
             .drawn;
     dayCard_ = drawn.card;
     ui_->ImgCartadia->setPictureFile(desktop().files, drawn.picturePath);
-    ui_->ImgCartadia->setTip(text(drawn.tip));
+    ui_->ImgCartadia->setTip(widgets::qtText(drawn.tip));
 }
 
 void FrmCartaDia::showSignOfNow() {
     const sky::SignReading& sign = sky::signoZod({desktop().files, desktop().zone}, desktop().clock.now(),
-                                                 record().options.holders.hemisferio, record().sky);
+                                                 options().holders.hemisferio, tarot_.sky);
     showSign(sign, desktop().files, {*ui_->ImageZod, *ui_->LabelZod, *ui_->ImageAlert});
 }
 
@@ -152,48 +149,47 @@ void FrmCartaDia::startTimers() {
 
 void FrmCartaDia::drawDayMoon() {
     const base::DateValue moment = sky::localToUniversal(desktop().clock.now(), desktop().zone);
-    const std::string name = sky::drawDayMoon(sky::MoonEngine(desktop().events), moment, record().sky);
+    const std::string name = sky::drawDayMoon(sky::MoonEngine(desktop().events), moment, tarot_.sky);
     if (!isLoaded()) return;
-    ui_->ImgLuna->setPicture(shell::moonPicture(desktop().files, name, record().options.holders.hemisferio));
+    ui_->ImgLuna->setPicture(
+        widgets::loadChoice(desktop().files, sky::moonPicture(desktop().files, name, options().holders.hemisferio)));
 }
 
 void FrmCartaDia::loadBirth() {
-    biorhythm::loadBirthTime(desktop().files, record().bio);
-    biorhythm::loadBirth(desktop().files, record().bio);
-    if (biorhythm::birthDateIsSet(record().bio)) return;
-    record().alerts.alertText = welcome;
-    QTimer::singleShot(isVisible() ? 0 : shell::untilFirstWindowStandsMs, this, [&process = process()] {
-        if (process.notification) process.notification->show(std::string(welcome));
-        process.desktop.sounds.playWav("Url.wav");
+    if (tarot_.gauge.loadBirth()) return;
+    tarot_.gauge.setWelcome(std::string(welcome));
+    QTimer::singleShot(isVisible() ? 0 : shell::firstWindowDelayMs, this, [&context = context()] {
+        if (context.notification) context.notification->show(std::string(welcome));
+        context.desktop.sounds.playWav("Url.wav");
     });
 }
 
 void FrmCartaDia::DrawBioMedia() {
-    const biorhythm::BioGauge gauge = biorhythm::drawBioMedia(record().bio, desktop().clock.now());
-    ui_->LabelBioMedia->setText(text(gauge.labelBioMedia));
-    ui_->LabelBioInfo->setText(text(gauge.labelBioInfo));
+    const shell::AverageGauge gauge = tarot_.gauge.drawBioMedia(desktop().clock.now());
+    ui_->LabelBioMedia->setText(widgets::qtText(gauge.labelBioMedia));
+    ui_->LabelBioInfo->setText(widgets::qtText(gauge.labelBioInfo));
     ui_->PicMediaBio->draw(gauge);
-    ui_->Imageasc->setVisible(gauge.trend == biorhythm::Trend::rising);
-    ui_->Imagedesc->setVisible(gauge.trend == biorhythm::Trend::falling);
+    ui_->Imageasc->setVisible(gauge.trend == shell::Trend::rising);
+    ui_->Imagedesc->setVisible(gauge.trend == shell::Trend::falling);
 }
 
 // ---- The timers
 
 void FrmCartaDia::copyTexts() {
-    ui_->LblGetTime->setText(text(base::timeText(base::civilTimeOf(desktop().clock.now()))));
-    ui_->LblGetUptime->setText(text(record().agent.LblUptime));
-    ui_->LblDias->setText(text(record().agent.LblDias));
+    ui_->LblGetTime->setText(widgets::qtText(base::timeText(base::civilTimeOf(desktop().clock.now()))));
+    ui_->LblGetUptime->setText(widgets::qtText(context().agent.LblUptime));
+    ui_->LblDias->setText(widgets::qtText(context().agent.LblDias));
 }
 
 void FrmCartaDia::tickSecond() {
     copyTexts();
     const std::string clock = ui_->LblGetTime->text().toStdString();
-    switch (midnightStep(clock, record().options.holders.muteCod, record().shell.refreshingView)) {
+    switch (midnightStep(clock, options().holders.muteCod, state().refreshingView)) {
     case MidnightStep::showNewDay:
         return showNewDay();
     case MidnightStep::hideAgain:
         hideToTray();
-        record().shell.refreshingView = false;
+        state().refreshingView = false;
         return;
     case MidnightStep::none:
         return;
@@ -201,15 +197,15 @@ void FrmCartaDia::tickSecond() {
 }
 
 void FrmCartaDia::showNewDay() {
-    record().shell.refreshingView = true;
+    state().refreshingView = true;
     load();
     if (!isLoaded()) return;
-    shell::Topmost(*this); // and so it stays: nothing lowers it again
+    widgets::Topmost(*this); // and so it stays: nothing lowers it again
     desktop().sounds.playWav("Trumpet.wav");
 }
 
 void FrmCartaDia::tickMinute() {
-    const MinuteWork work = minuteTick(record().gaugeTicks, minutes_);
+    const MinuteWork work = minuteTick(tarot_.state.gaugeTicks, minutes_);
     if (work.gauge) DrawBioMedia();
     if (work.sign) showSignOfNow();
     if (work.moon) drawDayMoon();
@@ -218,39 +214,40 @@ void FrmCartaDia::tickMinute() {
 // ---- What the user does
 
 void FrmCartaDia::refresh() {
-    if (record().shell.viewLoading) return;
-    shell::ShellState& flags = record().shell; // outlives this window, should the load end in the program's exit
+    if (state().viewLoading) return;
+    shell::ShellState& flags = state(); // outlives this window, should the load end in the program's exit
     flags.refreshingView = true;
     load();
     flags.refreshingView = false;
 }
 
 void FrmCartaDia::describeCard() {
-    record().cards.currentCard = dayCard_;
-    showCardDescription(record().cards, desktop().boxes);
+    tarot_.state.cards.currentCard = dayCard_;
+    showCardDescription(tarot_.state.cards, state(), desktop().boxes);
 }
 
 void FrmCartaDia::tellChangeOfSign() {
     const base::CivilDate today = base::civilDateOf(desktop().clock.now());
     desktop().boxes.show(platform::BoxIcon::information,
-                         sky::changeOfSignMessage(record().sky.cardOfDaySign, today, desktop().zone), "Info");
+                         sky::changeOfSignMessage(tarot_.sky.cardOfDaySign, today, desktop().zone), "Info");
 }
 
 void FrmCartaDia::showSignText() {
     const QRect body = ui_->centralwidget->contentsRect();
     const QRect sign(ui_->ImageZod->mapTo(ui_->centralwidget, QPoint()), ui_->ImageZod->size());
     const QRect leftOfSign(body.topLeft(), QPoint(sign.left() - signGap, ui_->ARButtonBio->y() - signGap));
-    ui_->TextZod->showIn(leftOfSign, text(sky::signDescription(desktop().files, record().sky.currentSignIndex)));
+    ui_->TextZod->showIn(leftOfSign,
+                         widgets::qtText(sky::signDescription(desktop().files, tarot_.sky.currentSignIndex)));
 }
 
 void FrmCartaDia::clickMoon() {
-    auto& details = process().windows.touch(sky::FrmMoonPhase::windowName, process());
-    static_cast<sky::FrmMoonPhase&>(details).LabelDetall_Click();
+    auto& details = windows().touch<sky::FrmMoonPhase>();
+    details.LabelDetall_Click();
     if (details.isLoaded() && !details.isVisible()) showMoonDetails();
 }
 
 void FrmCartaDia::showMoonDetails() {
-    auto& details = process().windows.touch(sky::FrmMoonPhase::windowName, process());
+    auto& details = windows().touch<sky::FrmMoonPhase>();
     if (!details.isLoaded()) return; // the mouse has left the picture meanwhile
     details.adjustSize();
     const auto below = static_cast<int>(detailsBelowTop * details.height());
@@ -259,7 +256,7 @@ void FrmCartaDia::showMoonDetails() {
 }
 
 void FrmCartaDia::closeMoonDetails() {
-    process().windows.unload(sky::FrmMoonPhase::windowName);
+    windows().unload(sky::FrmMoonPhase::windowName);
 }
 
 void FrmCartaDia::keyPressEvent(QKeyEvent* event) {
@@ -280,14 +277,14 @@ void FrmCartaDia::onHidden() {
 
 void FrmCartaDia::onMinimised(bool toSystray) {
     closeMoonDetails();
-    if (toSystray) shell::closeNotification(process());
+    if (toSystray) shell::closeNotification(context());
 }
 
 void FrmCartaDia::onUnload() {
     // A window that goes while the midnight card stands must not leave the next one believing that it is a refresh.
-    record().shell.refreshingView = false;
+    state().refreshingView = false;
     if (!(windowState() & (Qt::WindowMinimized | Qt::WindowMaximized)))
-        shell::storePlace(record().options, shell::placeOf(*this));
+        shell::storePlace(options(), shell::placeOf(*this));
     closeMoonDetails();
 }
 

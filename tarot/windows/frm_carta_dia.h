@@ -2,8 +2,9 @@
 #pragma once
 
 #include "shell/windows/module_window.h"
-#include "shell/windows/second_timer.h"
 #include "tarot/day_view.h"
+#include "tarot/windows/tarot_context.h"
+#include "widgets/second_timer.h"
 
 #include <QTimer>
 
@@ -21,7 +22,7 @@ class FrmCartaDia : public shell::ModuleWindow {
     Q_OBJECT
 
 public:
-    explicit FrmCartaDia(shell::Process& process);
+    FrmCartaDia(shell::WindowContext& context, TarotContext& tarot);
     ~FrmCartaDia() override;
 
     void returnFromTray() override;
@@ -29,14 +30,14 @@ public:
 protected:
     void beforeOptions() override;
     void ownLoad() override;
-    bool isRefresh() const override { return record().shell.refreshingView; }
+    bool isRefresh() const override { return state().refreshingView; }
     void onHidden() override;
     void onMinimised(bool toSystray) override;
     void onUnload() override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void dressControls();
+    void setUpControls();
     void connectControls();
     void watchHovers();
     void prepareTimers();
@@ -63,8 +64,9 @@ private:
     void showMoonDetails();
     void closeMoonDetails();
 
+    TarotContext& tarot_;
     std::unique_ptr<Ui::FrmCartaDia> ui_;
-    shell::SecondTimer krono_;
+    widgets::SecondTimer krono_;
     QTimer timerPlus_;
     MinuteCounts minutes_;
     std::int16_t dayCard_ = 0; ///< of today; what a click on the card describes

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tarot/windows/frm_name.h"
 
+#include "tarot/modules.h"
 #include "tarot/names_reading.h"
 #include "tarot/windows/card_description.h"
 #include "tarot/windows/card_picture.h"
@@ -20,9 +21,9 @@ bool isEnterKey(const QEvent& event) {
 
 } // namespace
 
-FrmName::FrmName(shell::Process& process) :
-    ModuleWindow(process, shell::Module::names), ui_(std::make_unique<Ui::FrmName>()),
-    results_(namesLog, "MnuRecResults", *this, process) {
+FrmName::FrmName(shell::WindowContext& context, TarotContext& tarot) :
+    ModuleWindow(context, namesModule), tarot_(tarot), ui_(std::make_unique<Ui::FrmName>()),
+    results_(namesLog, "MnuRecResults", *this, context) {
     ui_->setupUi(this);
     ui_->ImgNombre->setCornerRadius(cardCornerShare);
     ui_->ImgNombre->setClickable(true);
@@ -35,7 +36,7 @@ FrmName::~FrmName() = default;
 void FrmName::connectControls() {
     connect(ui_->ARButtonAcep, &QPushButton::clicked, this, &FrmName::submit);
     connect(ui_->ARButtonReset, &QPushButton::clicked, this, &FrmName::reset);
-    connect(ui_->ImgNombre, &shell::PictureBox::clicked, this, &FrmName::describeCard);
+    connect(ui_->ImgNombre, &widgets::PictureBox::clicked, this, &FrmName::describeCard);
     for (QWidget* control : ui_->centralwidget->findChildren<QWidget*>()) control->installEventFilter(this);
 }
 
@@ -59,7 +60,7 @@ NameFields FrmName::typedNames() const {
 
 void FrmName::submit() {
     const NamesReading reading = readNames(typedNames(), desktop().files.applicationDirectory(),
-                                           record().options.holders.tipocartas, record().cards);
+                                           options().holders.tipocartas, tarot_.state.cards);
     for (int i = 0; i < reading.refusedFields; ++i)
         desktop().boxes.show(platform::BoxIcon::warning, std::string(namesWarning), "Info");
     if (!reading.drawn) return;
@@ -75,8 +76,8 @@ void FrmName::reset() {
 }
 
 void FrmName::describeCard() {
-    record().cards.currentCard = nameCard_;
-    showCardDescription(record().cards, desktop().boxes);
+    tarot_.state.cards.currentCard = nameCard_;
+    showCardDescription(tarot_.state.cards, state(), desktop().boxes);
 }
 
 } // namespace velmoriax::tarot

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tarot/windows/result_menu.h"
+#include "tarot/windows/tarot_context.h"
 
 #include <memory>
 
@@ -16,7 +17,7 @@ class FrmName : public shell::ModuleWindow {
     Q_OBJECT
 
 public:
-    explicit FrmName(shell::Process& process);
+    FrmName(shell::WindowContext& context, TarotContext& tarot);
     ~FrmName() override;
 
     /// Turns Enter into Tab, ahead of every control.
@@ -33,6 +34,7 @@ private:
     void reset();
     void describeCard();
 
+    TarotContext& tarot_;
     std::unique_ptr<Ui::FrmName> ui_;
     ResultMenu results_;
     std::int16_t nameCard_ = 0; ///< of the latest reading; the reset keeps it

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tarot/windows/frm_oracle.h"
 
-#include "shell/windows/look.h"
-#include "shell/windows/night_calendar.h"
+#include "tarot/modules.h"
 #include "tarot/windows/card_description.h"
 #include "tarot/windows/card_picture.h"
 #include "ui_frm_oracle.h"
+#include "widgets/calendar.h"
+#include "widgets/conversions.h"
+#include "widgets/look.h"
 
 #include <QDate>
 #include <QShortcut>
@@ -33,22 +35,18 @@ constexpr int textLetters = 96;
 constexpr std::array<const char*, 4> facedDown{"Wands card, face down", "Cups card, face down",
                                                "Swords card, face down", "Coins card, face down"};
 
-QDate dateOf(base::CivilDate date) {
-    return {date.year, date.month, date.day};
-}
-
 } // namespace
 
-Frmoracle::Frmoracle(shell::Process& process) :
-    ModuleWindow(process, shell::Module::oracle), ui_(std::make_unique<Ui::Frmoracle>()),
-    results_(oracleLog, "MnuRegResult", *this, process), state_(process.record.oracle) {
+Frmoracle::Frmoracle(shell::WindowContext& context, TarotContext& tarot) :
+    ModuleWindow(context, oracleModule), tarot_(tarot), ui_(std::make_unique<Ui::Frmoracle>()),
+    results_(oracleLog, "MnuRegResult", *this, context), state_(tarot.state.oracle) {
     openPictures();
     ui_->setupUi(this);
     suits_ = {{{Suit::batons, ui_->TxtBas, ui_->ARButtonAcepBas, ui_->imgbas},
                {Suit::cups, ui_->TxtCop, ui_->ARButtonAcepCop, ui_->imgcop},
                {Suit::swords, ui_->TxtEsp, ui_->ARButtonAcepEsp, ui_->imgesp},
                {Suit::golds, ui_->TxtOr, ui_->ARButtonAcepOr, ui_->imgor}}};
-    dressControls();
+    setUpControls();
     buildNavigation();
     connectSuits();
     connectControls();
@@ -56,7 +54,7 @@ Frmoracle::Frmoracle(shell::Process& process) :
 
 Frmoracle::~Frmoracle() = default;
 
-void Frmoracle::dressControls() {
+void Frmoracle::setUpControls() {
     for (const SuitControls& controls : suits_) controls.card->setCornerRadius(cardCornerShare);
     ui_->imgfinal->setCornerRadius(cardCornerShare);
     ui_->ImageSoundMidOn->setPicture(QImage(QStringLiteral(":/oracle/sound_on.png")));
@@ -68,15 +66,15 @@ void Frmoracle::dressControls() {
     ui_->ImageSoundMidOn->setAccessibleName(tr("Song on: switch it off"));
     ui_->ImageSoundMidOff->setAccessibleName(tr("Song off: switch it on"));
 
-    shell::makeNightCalendar(*ui_->MonthView1);
+    widgets::setUpCalendar(*ui_->MonthView1);
     ui_->MonthView1->setAttribute(Qt::WA_StyledBackground);
     ui_->MonthView1->setContentsMargins(monthViewMargins);
     ui_->MonthView1->hide();
-    dressTextPane();
+    setUpTextPane();
 }
 
-void Frmoracle::dressTextPane() {
-    shell::look::asReading(*ui_->TxtEdit);
+void Frmoracle::setUpTextPane() {
+    widgets::look::asReading(*ui_->TxtEdit);
     const QFontMetrics metrics = ui_->TxtEdit->fontMetrics();
     ui_->TxtEdit->setMinimumHeight(metrics.lineSpacing() * fewestTextLines);
     ui_->TxtEdit->setMaximumHeight(metrics.lineSpacing() * textLines);
@@ -87,8 +85,8 @@ void Frmoracle::dressTextPane() {
 void Frmoracle::connectSuits() {
     for (const SuitControls& controls : suits_) {
         connect(controls.accept, &QPushButton::clicked, this, [this, controls] { read(controls); });
-        connect(controls.question, &QuestionBox::asked, this, [this, controls] { read(controls); });
-        connect(controls.card, &shell::PictureBox::clicked, this, [this, controls] {
+        connect(controls.question, &widgets::QuestionBox::asked, this, [this, controls] { read(controls); });
+        connect(controls.card, &widgets::PictureBox::clicked, this, [this, controls] {
             openText(openSuitText(controls.suit, state_, desktop().files.applicationDirectory()));
         });
     }
@@ -97,7 +95,7 @@ void Frmoracle::connectSuits() {
 void Frmoracle::connectControls() {
     connect(ui_->ARButtonResult, &QPushButton::clicked, this, &Frmoracle::showResultant);
     connect(ui_->ARButtonReset, &QPushButton::clicked, this, &Frmoracle::reset);
-    connect(ui_->imgfinal, &shell::PictureBox::clicked, this,
+    connect(ui_->imgfinal, &widgets::PictureBox::clicked, this,
             [this] { openText(openFinalText(state_, desktop().files.applicationDirectory())); });
 
     connect(ui_->XPButton1, &QPushButton::clicked, this, &Frmoracle::askDate);
@@ -107,26 +105,26 @@ void Frmoracle::connectControls() {
     leave->setContext(Qt::WidgetWithChildrenShortcut);
     connect(leave, &QShortcut::activated, this, &Frmoracle::leaveMonthView);
 
-    connect(ui_->ImageSoundMidOn, &shell::PictureBox::clicked, this, [this] { switchSound(false); });
-    connect(ui_->ImageSoundMidOff, &shell::PictureBox::clicked, this, [this] { switchSound(true); });
+    connect(ui_->ImageSoundMidOn, &widgets::PictureBox::clicked, this, [this] { switchSound(false); });
+    connect(ui_->ImageSoundMidOff, &widgets::PictureBox::clicked, this, [this] { switchSound(true); });
     timerMidi_.setObjectName(QStringLiteral("TimerMidi"));
     timerMidi_.setInterval(timerMidiMs);
-    connect(&timerMidi_, &QTimer::timeout, this, [this] { tickMidi(sound_, desktop().media); });
+    connect(&timerMidi_, &QTimer::timeout, this, [this] { tickMidi(sound_, desktop().songs); });
 }
 
 OracleServices Frmoracle::reader() const {
-    return {record().options, desktop().random, desktop().files.applicationDirectory()};
+    return {options(), desktop().random, desktop().files.applicationDirectory()};
 }
 
 AmbientServices Frmoracle::ambience() const {
-    return {desktop().media, desktop().events, record().options, desktop().files.applicationDirectory()};
+    return {desktop().songs, desktop().events, options(), desktop().files.applicationDirectory()};
 }
 
 void Frmoracle::ownLoad() {
     state_ = {};
     state_.readingDate = base::civilDateOf(desktop().clock.now());
-    readThrowOption(state_, record().options);
-    ui_->XPButton1->setText(QString::fromStdString(dateButtonCaption(state_.readingDate)));
+    readThrowOption(options());
+    ui_->XPButton1->setText(widgets::qtText(dateButtonCaption(state_.readingDate)));
     results_.load();
     showBacks();
     followState();
@@ -149,18 +147,18 @@ void Frmoracle::read(const SuitControls& controls) {
     const DrawnCard& drawn = reading->drawn;
     showCard(*controls.card, drawn, desktop().files, suitRim);
     controls.card->setAccessibleName(
-        QString::fromStdString(spokenCard(spokenName(controls.suit, drawn.card), drawn.orientation)));
+        widgets::qtText(spokenCard(spokenName(controls.suit, drawn.card), drawn.orientation)));
     results_.keep(reading->record);
 }
 
 void Frmoracle::showResultant() {
     const auto reading = drawFinalCard(ui_->TxtEsp->toPlainText().toStdString(), desktop().clock.now(), state_,
-                                       record().cards, reader());
+                                       tarot_.state.cards, reader());
     followState();
     if (!reading) return;
     const DrawnCard& drawn = reading->drawn;
     showCard(*ui_->imgfinal, drawn, desktop().files);
-    ui_->imgfinal->setAccessibleName(QString::fromStdString(spokenCard(drawn.tip, drawn.orientation)));
+    ui_->imgfinal->setAccessibleName(widgets::qtText(spokenCard(drawn.tip, drawn.orientation)));
     results_.keep(reading->record);
 }
 
@@ -174,7 +172,7 @@ void Frmoracle::reset() {
 }
 
 void Frmoracle::showBacks() {
-    const QImage back = shell::loadPicture(desktop().files, suitBackPath(desktop().files.applicationDirectory()));
+    const QImage back = widgets::loadPicture(desktop().files, suitBackPath(desktop().files.applicationDirectory()));
     for (const SuitControls& controls : suits_) {
         controls.card->setPicture(back);
         controls.card->setAccessibleName(tr(facedDown[static_cast<std::size_t>(controls.suit)]));
@@ -192,7 +190,7 @@ void Frmoracle::followState() {
 
 void Frmoracle::openText(const std::optional<std::string>& path) {
     if (!path) return;
-    ui_->TxtEdit->setPlainText(QString::fromStdString(cardText(desktop().files, *path)));
+    ui_->TxtEdit->setPlainText(widgets::qtText(cardText(desktop().files, *path)));
     ui_->TxtEdit->show();
     ui_->TxtEdit->setFocus(); // so that the keys scroll it
 }
@@ -204,7 +202,7 @@ void Frmoracle::askDate() {
     if (!offered)
         return desktop().boxes.show(platform::BoxIcon::warning, std::string(dateWarning),
                                     std::string(dateWarningTitle));
-    ui_->MonthView1->setSelectedDate(dateOf(*offered));
+    ui_->MonthView1->setSelectedDate(widgets::qtDate(*offered));
     placeMonthView();
     ui_->MonthView1->show();
     ui_->MonthView1->raise();
@@ -235,8 +233,8 @@ void Frmoracle::leaveMonthView() {
 }
 
 void Frmoracle::pickDate(QDate day) {
-    chooseDate(state_, {day.year(), day.month(), day.day()});
-    ui_->XPButton1->setText(QString::fromStdString(dateButtonCaption(state_.readingDate)));
+    chooseDate(state_, widgets::civilDate(day));
+    ui_->XPButton1->setText(widgets::qtText(dateButtonCaption(state_.readingDate)));
     followState();
     leaveMonthView();
 }
@@ -264,7 +262,7 @@ void Frmoracle::followTimer() {
 }
 
 void Frmoracle::beforeClose() {
-    stopMidi(sound_, desktop().media);
+    stopMidi(sound_, desktop().songs);
 }
 
 } // namespace velmoriax::tarot

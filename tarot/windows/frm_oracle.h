@@ -5,6 +5,7 @@
 #include "tarot/ambient_sound.h"
 #include "tarot/oracle_view.h"
 #include "tarot/windows/result_menu.h"
+#include "tarot/windows/tarot_context.h"
 
 #include <QTimer>
 
@@ -18,20 +19,19 @@ namespace Ui {
 class Frmoracle;
 }
 
-namespace velmoriax::shell {
+namespace velmoriax::widgets {
 class PictureBox;
-}
+class QuestionBox;
+} // namespace velmoriax::widgets
 
 namespace velmoriax::tarot {
-
-class QuestionBox;
 
 /// The oracle: four questions, each with its card, the final card, the date of the reading and the song behind it.
 class Frmoracle : public shell::ModuleWindow {
     Q_OBJECT
 
 public:
-    explicit Frmoracle(shell::Process& process);
+    Frmoracle(shell::WindowContext& context, TarotContext& tarot);
     ~Frmoracle() override;
 
 protected:
@@ -43,13 +43,13 @@ protected:
 private:
     struct SuitControls {
         Suit suit;
-        QuestionBox* question;
+        widgets::QuestionBox* question;
         QPushButton* accept;
-        shell::PictureBox* card;
+        widgets::PictureBox* card;
     };
 
-    void dressControls();
-    void dressTextPane();
+    void setUpControls();
+    void setUpTextPane();
     void connectSuits();
     void connectControls();
 
@@ -73,6 +73,7 @@ private:
     OracleServices reader() const;
     AmbientServices ambience() const;
 
+    TarotContext& tarot_;
     std::unique_ptr<Ui::Frmoracle> ui_;
     std::array<SuitControls, 4> suits_;
     ResultMenu results_;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tarot/windows/frm_velmoriax.h"
 
-#include "shell/windows/look.h"
+#include "tarot/modules.h"
 #include "tarot/numbers_reading.h"
 #include "tarot/windows/card_description.h"
 #include "tarot/windows/card_picture.h"
 #include "ui_frm_velmoriax.h"
+#include "widgets/conversions.h"
+#include "widgets/look.h"
 
 namespace velmoriax::tarot {
 
@@ -15,17 +17,17 @@ namespace {
 void makeRoomForResults(QLineEdit& line) {
     int widest = 0;
     for (const MajorCard& card : majorArcana)
-        widest = std::max(widest, line.fontMetrics().horizontalAdvance(QString::fromStdString(resultLineOf(card))));
+        widest = std::max(widest, line.fontMetrics().horizontalAdvance(widgets::qtText(resultLineOf(card))));
     line.setMinimumWidth(widest + line.fontMetrics().averageCharWidth());
 }
 
 } // namespace
 
-frmVelmoriax::frmVelmoriax(shell::Process& process) :
-    ModuleWindow(process, shell::Module::numbers), ui_(std::make_unique<Ui::frmVelmoriax>()),
-    results_(numbersLog, "MnuRegResult", *this, process) {
+frmVelmoriax::frmVelmoriax(shell::WindowContext& context, TarotContext& tarot) :
+    ModuleWindow(context, numbersModule), tarot_(tarot), ui_(std::make_unique<Ui::frmVelmoriax>()),
+    results_(numbersLog, "MnuRegResult", *this, context) {
     ui_->setupUi(this);
-    shell::look::asTitle(*ui_->Text2);
+    widgets::look::asTitle(*ui_->Text2);
     makeRoomForResults(*ui_->Text2);
     ui_->ImgVelmoriax->setCornerRadius(cardCornerShare);
     ui_->ImgVelmoriax->setClickable(true);
@@ -38,7 +40,7 @@ frmVelmoriax::~frmVelmoriax() = default;
 void frmVelmoriax::connectControls() {
     connect(ui_->ARButtonAcep, &QPushButton::clicked, this, &frmVelmoriax::submit);
     connect(ui_->ARButtonReset, &QPushButton::clicked, this, &frmVelmoriax::reset);
-    connect(ui_->ImgVelmoriax, &shell::PictureBox::clicked, this, &frmVelmoriax::describeCard);
+    connect(ui_->ImgVelmoriax, &widgets::PictureBox::clicked, this, &frmVelmoriax::describeCard);
     connect(ui_->text1, &QLineEdit::returnPressed, this, &frmVelmoriax::submit);
     connect(ui_->text1, &QLineEdit::textChanged, this, [this] { update(); });
 }
@@ -51,14 +53,14 @@ void frmVelmoriax::ownLoad() {
 
 void frmVelmoriax::submit() {
     const auto reading = SumarUnidades(ui_->text1->text().toStdString(), desktop().files.applicationDirectory(),
-                                       record().options.holders.tipocartas, record().cards);
+                                       options().holders.tipocartas, tarot_.state.cards);
     if (!reading) {
         desktop().boxes.show(platform::BoxIcon::warning, std::string(numbersWarning), "Info");
         ui_->text1->clear();
         return;
     }
     numberCard_ = reading->drawn.card;
-    ui_->Text2->setText(QString::fromStdString(reading->resultLine));
+    ui_->Text2->setText(widgets::qtText(reading->resultLine));
     showCard(*ui_->ImgVelmoriax, reading->drawn, desktop().files);
     results_.keep(reading->record);
 }
@@ -71,8 +73,8 @@ void frmVelmoriax::reset() {
 }
 
 void frmVelmoriax::describeCard() {
-    record().cards.currentCard = numberCard_;
-    showCardDescription(record().cards, desktop().boxes);
+    tarot_.state.cards.currentCard = numberCard_;
+    showCardDescription(tarot_.state.cards, state(), desktop().boxes);
 }
 
 } // namespace velmoriax::tarot

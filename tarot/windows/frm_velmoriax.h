@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tarot/windows/result_menu.h"
+#include "tarot/windows/tarot_context.h"
 
 #include <memory>
 
@@ -16,7 +17,7 @@ class frmVelmoriax : public shell::ModuleWindow {
     Q_OBJECT
 
 public:
-    explicit frmVelmoriax(shell::Process& process);
+    frmVelmoriax(shell::WindowContext& context, TarotContext& tarot);
     ~frmVelmoriax() override;
 
 protected:
@@ -29,6 +30,7 @@ private:
     void reset();
     void describeCard();
 
+    TarotContext& tarot_;
     std::unique_ptr<Ui::frmVelmoriax> ui_;
     ResultMenu results_;
     std::int16_t numberCard_ = 0; ///< of the latest reading; the reset keeps it

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tarot/windows/gauge_box.h"
 
-#include "biorhythm/bio_gauge.h"
-#include "shell/windows/look.h"
+#include "shell/average_gauge.h"
+#include "widgets/conversions.h"
+#include "widgets/look.h"
 
 #include <QPainter>
 
@@ -21,10 +22,10 @@ GaugeBox::GaugeBox(QWidget* parent) : QAbstractButton(parent) {
     setFocusPolicy(Qt::StrongFocus);
 }
 
-void GaugeBox::draw(const biorhythm::BioGauge& gauge) {
+void GaugeBox::draw(const shell::AverageGauge& gauge) {
     value_ = gauge.value;
     colour_ = QColor(gauge.colour.red, gauge.colour.green, gauge.colour.blue);
-    setAccessibleDescription(QString::fromStdString(gauge.labelBioMedia + ", " + gauge.labelBioInfo));
+    setAccessibleDescription(widgets::qtText(gauge.labelBioMedia + ", " + gauge.labelBioInfo));
     update();
 }
 
@@ -38,8 +39,8 @@ QRectF GaugeBox::area() const {
 
 void GaugeBox::paintFrame(QPainter& painter) const {
     const QRectF place = area();
-    painter.fillRect(place, shell::look::panel());
-    painter.setPen(QPen(hasFocus() ? shell::look::gold() : shell::look::quietText(), 1));
+    painter.fillRect(place, widgets::look::panel());
+    painter.setPen(QPen(hasFocus() ? widgets::look::gold() : widgets::look::quietText(), 1));
     painter.drawRect(place.adjusted(-1, -1, 1, 1));
     const double middle = place.center().y();
     painter.drawLine(QPointF(place.left() - frame - tick, middle), QPointF(place.left() - frame, middle));

@@ -3,8 +3,8 @@
 
 #include <QAbstractButton>
 
-namespace velmoriax::biorhythm {
-struct BioGauge;
+namespace velmoriax::shell {
+struct AverageGauge;
 }
 
 namespace velmoriax::tarot {
@@ -18,7 +18,7 @@ public:
     explicit GaugeBox(QWidget* parent = nullptr);
 
     /// Clears the drawing area and draws the bar.
-    void draw(const biorhythm::BioGauge& gauge);
+    void draw(const shell::AverageGauge& gauge);
 
     QSize sizeHint() const override;
 

@@ -12,9 +12,9 @@ class ResultMenu {
 public:
     /// `saveEntry` is the control name of the window's "Save results".
     ResultMenu(const ResultLog& log, std::string_view saveEntry, const shell::ModuleWindow& window,
-               shell::Process& process) :
+               shell::WindowContext& context) :
         log_(log),
-        saveEntry_(saveEntry), window_(window), process_(process) {}
+        saveEntry_(saveEntry), window_(window), context_(context) {}
 
     /// Sets the check mark as the options file says. To be called when the window loads.
     void load();
@@ -25,7 +25,7 @@ public:
     /// Writes the record of a reading when the check mark stands.
     template<typename Record>
     void keep(const Record& record) {
-        if (saves()) appendRecord(process_.desktop.files, record);
+        if (saves()) appendRecord(context_.desktop.files, record);
     }
 
 private:
@@ -34,7 +34,7 @@ private:
     const ResultLog& log_;
     std::string_view saveEntry_;
     const shell::ModuleWindow& window_;
-    shell::Process& process_;
+    shell::WindowContext& context_;
 };
 
 } // namespace velmoriax::tarot

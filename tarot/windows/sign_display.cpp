@@ -2,7 +2,8 @@
 #include "tarot/windows/sign_display.h"
 
 #include "base/run_time_error.h"
-#include "shell/windows/picture_box.h"
+#include "widgets/conversions.h"
+#include "widgets/picture_box.h"
 
 #include <algorithm>
 
@@ -12,10 +13,6 @@ namespace {
 
 constexpr int lettersOfLine = 62;
 constexpr double smallestLetters = 7;
-
-QString text(const std::string& utf8) {
-    return QString::fromStdString(utf8);
-}
 
 /// A line end at the end would open an empty line in the pane.
 QString withoutLastLineEnd(QString text) {
@@ -27,15 +24,15 @@ QString withoutLastLineEnd(QString text) {
 
 void showSign(const sky::SignReading& sign, const platform::Files& files, const SignControls& controls) {
     try {
-        controls.ImageZod.setPicture(shell::loadPicture(files, sign.picturePath));
+        controls.ImageZod.setPicture(widgets::loadPicture(files, sign.picturePath));
     } catch (const base::RunTimeError&) {
     }
-    controls.ImageZod.setTip(text(sign.tip));
+    controls.ImageZod.setTip(widgets::qtText(sign.tip));
     controls.ImageZod.setClickable(true);
-    controls.LabelZod.setText(text(sign.label));
+    controls.LabelZod.setText(widgets::qtText(sign.label));
     controls.ImageAlert.setVisible(sign.alertVisible);
-    controls.ImageAlert.setToolTip(text(sign.alertTip));
-    controls.ImageAlert.setAccessibleName(text(sign.alertTip));
+    controls.ImageAlert.setToolTip(widgets::qtText(sign.alertTip));
+    controls.ImageAlert.setAccessibleName(widgets::qtText(sign.alertTip));
 }
 
 SignPane::SignPane(QWidget* parent) : QLabel(parent) {

@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QToolButton>
 
-namespace velmoriax::shell {
+namespace velmoriax::widgets {
 class PictureBox;
 }
 
@@ -18,7 +18,7 @@ inline constexpr double roundPicture = 0.5;
 
 /// The controls in which a window shows the sign.
 struct SignControls {
-    shell::PictureBox& ImageZod;
+    widgets::PictureBox& ImageZod;
     QLabel& LabelZod;
     QToolButton& ImageAlert;
 };

@@ -4,7 +4,7 @@
 #include "base/percent.h"
 #include "base/rounding.h"
 #include "base/run_time_error.h"
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "support/helpers.h"
 
 #include <limits>
@@ -73,14 +73,14 @@ TEST(DateText, ReadsMomentsAndNothingElse) {
 TEST(WesternText, EveryByteComesBackAndWhatTheCodePageLacksIsMarked) {
     std::string all;
     for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
-    EXPECT_EQ(toWestern(fromWestern(all)), all);
-    EXPECT_EQ(toWestern("Mari\xCC\x81"), toWestern("Mar\xC3\xAD")) << "decomposed i with acute";
-    EXPECT_EQ(toWestern("n\xCC\x83"), "\xF1");
-    EXPECT_EQ(toWestern("€"), "\x80");
-    EXPECT_EQ(toWestern("→😀"), "??");
-    EXPECT_EQ(toWestern("a\xFF\xC3"), "a??") << "broken UTF-8";
-    EXPECT_EQ(toWestern("\xCC\x81"), "?") << "an accent alone";
-    EXPECT_EQ(lowerWestern(toWestern("ÁÑŠ×ß")), toWestern("áñš×ß"));
+    EXPECT_EQ(toWindows1252(fromWindows1252(all)), all);
+    EXPECT_EQ(toWindows1252("Mari\xCC\x81"), toWindows1252("Mar\xC3\xAD")) << "decomposed i with acute";
+    EXPECT_EQ(toWindows1252("n\xCC\x83"), "\xF1");
+    EXPECT_EQ(toWindows1252("€"), "\x80");
+    EXPECT_EQ(toWindows1252("→😀"), "??");
+    EXPECT_EQ(toWindows1252("a\xFF\xC3"), "a??") << "broken UTF-8";
+    EXPECT_EQ(toWindows1252("\xCC\x81"), "?") << "an accent alone";
+    EXPECT_EQ(lowerWindows1252(toWindows1252("ÁÑŠ×ß")), toWindows1252("áñš×ß"));
 }
 
 TEST(PercentOf, ItsOddAnswers) {

@@ -33,7 +33,7 @@ struct AlertEngine : testing::Test {
     }
 
     BioState state;
-    AlertRecord record;
+    AlertState record;
     test::FakeNotification notification;
     test::FakeSounds sounds;
 };

@@ -38,8 +38,8 @@ TEST(BioView, ShowsACalculation) {
     EXPECT_EQ(shown.livedDays, "16898.45");
     EXPECT_EQ(shown.remainingDays, -10);
     EXPECT_EQ(shown.cycles[emotional].caption, "(-9.74 %)");
-    EXPECT_EQ(shown.cycles[emotional].trend, Trend::falling);
-    EXPECT_EQ(shown.cycles[intellectual].colour, (Colour{150, 250, 100}));
+    EXPECT_EQ(shown.cycles[emotional].trend, shell::Trend::falling);
+    EXPECT_EQ(shown.cycles[intellectual].colour, (base::Colour{150, 250, 100}));
     EXPECT_EQ(shown.average, "-39.20% (negative: bad day)");
     EXPECT_EQ(shown.time, "Time: 18:30:00");
     EXPECT_FALSE(birthDateIsSet(state)) << "the record takes the birth over when it is saved";

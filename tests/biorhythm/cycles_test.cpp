@@ -66,17 +66,17 @@ TEST(BioGauge, ShowsTheAverageOfTodayInFullPrecision) {
     BioState state;
     setBirthDate(state, {1980, 3, 15});
     setBirthTime(state, {7, 5, 0});
-    const BioGauge bad = drawBioMedia(state, base::dateValueOf({2026, 6, 20}, {18, 30, 0}));
+    const shell::AverageGauge bad = drawBioMedia(state, base::dateValueOf({2026, 6, 20}, {18, 30, 0}));
     EXPECT_EQ(bad.labelBioInfo, "Biorhythms: b.3/15/1980 7:05 (average)");
     EXPECT_NEAR(bad.value, -0.39, 0.01);
     EXPECT_EQ(bad.colour, pureRed);
-    EXPECT_EQ(bad.trend, Trend::falling);
+    EXPECT_EQ(bad.trend, shell::Trend::falling);
     setBirthTime(state, {12, 0, 0});
-    const BioGauge newborn = drawBioMedia(state, base::dateValueOf({1980, 3, 15}, {12, 0, 0}));
+    const shell::AverageGauge newborn = drawBioMedia(state, base::dateValueOf({1980, 3, 15}, {12, 0, 0}));
     EXPECT_EQ(newborn.value, 0.0F);
     EXPECT_EQ(newborn.colour, pureGreen) << "a bar of no height is a green one";
-    EXPECT_EQ(newborn.trend, Trend::rising);
-    EXPECT_EQ(trendOf(0.5F, 0.5F), Trend::level);
+    EXPECT_EQ(newborn.trend, shell::Trend::rising);
+    EXPECT_EQ(trendOf(0.5F, 0.5F), shell::Trend::level);
 }
 
 TEST(Compatibility, ComparesBirthsForGood) {

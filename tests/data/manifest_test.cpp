@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every name that the program can ask for: is it there, does it open, is it what it says?
 #include "base/date_text.h"
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "sky/zodiac_tables.h"
 #include "support/helpers.h"
 #include "tarot/card_catalogue.h"
@@ -55,7 +55,7 @@ void expectText(const fs::path& path, long fewest, long most, std::set<std::stri
 
 /// The name of a sign's text and of its table.
 std::string textFileOf(std::string_view sign) {
-    return base::lowerWestern(sign) + ".txt";
+    return base::lowerWindows1252(sign) + ".txt";
 }
 
 TEST(Manifest, EachCardHasAPictureOfItsOwn) {

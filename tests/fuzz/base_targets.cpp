@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/date_text.h"
 #include "base/number_text.h"
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "fuzz/targets.h"
 
 #include <algorithm>
@@ -54,14 +54,14 @@ void numbers(std::string_view input) {
 }
 
 void western(std::string_view input) {
-    const std::string text = base::fromWestern(input);
-    law(base::toWestern(text) == input, "every byte of a file comes through memory");
+    const std::string text = base::fromWindows1252(input);
+    law(base::toWindows1252(text) == input, "every byte of a file comes through memory");
     law(characters(text) == input.size(), "a byte is a character");
-    const std::string bytes = base::toWestern(input);
+    const std::string bytes = base::toWindows1252(input);
     law(bytes.size() <= input.size(), "no character takes more bytes in a file than in memory");
-    law(base::toWestern(base::fromWestern(bytes)) == bytes, "what was written once stays");
-    const std::string lower = base::lowerWestern(input);
-    law(lower.size() == input.size() && base::lowerWestern(lower) == lower, "lower case is lower case");
+    law(base::toWindows1252(base::fromWindows1252(bytes)) == bytes, "what was written once stays");
+    const std::string lower = base::lowerWindows1252(input);
+    law(lower.size() == input.size() && base::lowerWindows1252(lower) == lower, "lower case is lower case");
 }
 
 } // namespace velmoriax::fuzz

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/run_time_error.h"
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "biorhythm/profile_editor.h"
 #include "biorhythm/profile_files.h"
 #include "biorhythm/profile_store.h"
@@ -85,7 +85,7 @@ void profileRewrite(std::string_view input) {
     files.at("\\perfiles.txt") = input;
     auto lines = biorhythm::profileLines(files);
     biorhythm::appendProfile(files, name, {1980, 3, 15}, "7:5");
-    lines.push_back(base::fromWestern(base::toWestern(name)) + ",March/15/1980,7:5");
+    lines.push_back(base::fromWindows1252(base::toWindows1252(name)) + ",March/15/1980,7:5");
     law(biorhythm::profileLines(files) == lines, "a record is a line of its own at the end");
     law(biorhythm::findProfile(files, name) == base::CivilMoment{{1980, 3, 15}, {7, 5, 0}}, "and is found");
     while (!lines.empty()) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "fuzz/targets.h"
 #include "shell/option_values.h"
 #include "shell/options_store.h"
@@ -51,7 +51,7 @@ Change changeBetween(std::string_view before, std::string_view after) {
 
 void othersStay(std::string_view before, std::string_view after, std::string_view changedKey) {
     for (const std::string_view key : {"a", "Minimizar", "tipocartas", "Tirada"}) {
-        if (base::lowerWestern(key) == base::lowerWestern(changedKey)) continue;
+        if (base::lowerWindows1252(key) == base::lowerWindows1252(changedKey)) continue;
         for (const std::string_view section : {"s", "opciones"})
             law(shell::profileValue(before, section, key) == shell::profileValue(after, section, key),
                 "the other keys read as before");
@@ -85,18 +85,19 @@ void options(std::string_view input) {
     files.at("\\opciones.ini") = input;
     shell::OptionsStore store(files);
     store.readAtStart();
-    store.readAtModuleLoad(true);
+    store.readAtModuleLoad();
+    store.readAtCardOfDayLoad();
     const shell::OptionHolders& read = store.holders;
     law(std::ranges::count(shell::alertLevels, read.alertLevel, &shell::AlertLevel::code) == 1, "a known level");
     law(read.minimizeTo == "systray" || read.minimizeTo == "toolbar", "a known place to minimise to");
-    law(base::toWestern(read.nivelAlertas).size() <= 254, "254 characters at most");
+    law(base::toWindows1252(read.nivelAlertas).size() <= 254, "254 characters at most");
     store.setOption(shell::key::songAmbient, value);
     store.writeProfileString(shell::optionsSection, shell::key::soundAmbient, value,
                              files.applicationDirectory() + "\\Opciones.ini");
     law(files.contents.size() == 1, "one file under both spellings");
-    const std::string bytes = base::toWestern(value);
+    const std::string bytes = base::toWindows1252(value);
     if (isPlainValue(bytes)) {
-        law(store.option(shell::key::songAmbient) == base::fromWestern(bytes.substr(0, 254)), "a value comes back");
+        law(store.option(shell::key::songAmbient) == base::fromWindows1252(bytes.substr(0, 254)), "a value comes back");
         law(store.option(shell::key::soundAmbient) == store.option(shell::key::songAmbient), "under both keys");
     }
     const std::string level = read.alertLevel;

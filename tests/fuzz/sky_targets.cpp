@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/date_text.h"
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "fuzz/targets.h"
 #include "sky/ingress_search.h"
 #include "sky/zodiac.h"
@@ -27,7 +27,7 @@ void ingress(std::string_view input) {
     test::FakeFiles files;
     for (const std::string_view sign : sky::signFileNames) {
         if (input.empty()) break;
-        files.at("\\fechas-db\\" + base::lowerWestern(sign) + ".txt") = takePart(input);
+        files.at("\\fechas-db\\" + base::lowerWindows1252(sign) + ".txt") = takePart(input);
     }
     const auto stay = sky::findSignStay(files, moment);
     if (stay)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "base/western_text.h"
+#include "base/windows1252.h"
 #include "shell/options_dialog.h"
 #include "support/fakes.h"
 
@@ -18,11 +18,19 @@ constexpr const char* wholeFile =
     "tipocartas=marsellaone\r\nModo Silencioso=nomudo\r\nMute cod=nomuted\r\nBackground Sound=NoBgSound\r\n"
     "Minimizar=systray\r\n";
 
+const ModuleInfo card{"FrmCartaDia", "The Card of Day..."};
+const ModuleInfo otherDay{"FrmCalendar", "Another Day..."};
+const ModuleInfo oracle{"Frmoracle", "Oracle"};
+const ModuleInfo names{"FrmName", "Names"};
+const ModuleInfo numbers{"frmVelmoriax", "Numbers"};
+const ModuleInfo biorhythms{"frmBio", "Biorhythms"};
+const ModuleList modules{&card, &otherDay, &oracle, &names, &numbers, &biorhythms};
+
 struct OptionsDialogTest : testing::Test {
-    void write(std::string_view utf8) { files_.at("\\opciones.ini") = base::toWestern(utf8); }
-    std::string option(std::string_view key) const { return record_.options.option(key); }
-    OptionHolders& holders() { return record_.options.holders; }
-    void open(OptionsDialog& dialog) { dialog.LeerIni(record_.options.fileName(), "opciones", ""); }
+    void write(std::string_view utf8) { files_.at("\\opciones.ini") = base::toWindows1252(utf8); }
+    std::string option(std::string_view key) const { return options_.option(key); }
+    OptionHolders& holders() { return options_.holders; }
+    void open(OptionsDialog& dialog) { dialog.LeerIni(options_.fileName(), "opciones", ""); }
     void panelAt(platform::TaskBarPosition::Edge edge) {
         taskBar_.where = platform::TaskBarPosition{0, 0, 100, 30, edge};
     }
@@ -31,8 +39,9 @@ struct OptionsDialogTest : testing::Test {
     test::FakeAutostart autostart_;
     test::FakeBoxes boxes_;
     test::FakeTaskBar taskBar_;
-    ProcessRecord record_{files_};
-    OptionsDialog dialog_{record_, {autostart_, boxes_, taskBar_}};
+    OptionsStore options_{files_};
+    ShellState state_;
+    OptionsDialog dialog_{options_, state_, {autostart_, boxes_, taskBar_}, modules};
 };
 
 TEST_F(OptionsDialogTest, AnEmptyFileShowsTheDefaults) {
@@ -45,7 +54,7 @@ TEST_F(OptionsDialogTest, AnEmptyFileShowsTheDefaults) {
     EXPECT_EQ(state[OptionList::ComboBio], 0);
     EXPECT_EQ(holders().muteCod, "nomuted");
     EXPECT_EQ(autostart_.writes, 0);
-    EXPECT_FALSE(record_.oracle.realThrow);
+    EXPECT_FALSE(options_.holders.realThrow);
 }
 
 TEST_F(OptionsDialogTest, StoredValuesAreComparedExactly) {
@@ -60,7 +69,7 @@ TEST_F(OptionsDialogTest, StoredValuesAreComparedExactly) {
     };
     for (const auto& [line, option, on, why] : rows) {
         write("[opciones]\r\n" + line + "\r\n");
-        OptionsDialog dialog{record_, {autostart_, boxes_, taskBar_}};
+        OptionsDialog dialog{options_, state_, {autostart_, boxes_, taskBar_}, modules};
         open(dialog);
         EXPECT_EQ(dialog.state()[option].on, on) << line << ": " << why;
     }
@@ -73,13 +82,14 @@ TEST_F(OptionsDialogTest, DefaultsAndClicksActAtOnceAndAreFoundAtTheNextOpening)
     };
     const auto readAll = [](OptionsStore& options) {
         options.readAtStart();
-        options.readAtModuleLoad(true);
+        options.readAtModuleLoad();
+        options.readAtCardOfDayLoad();
     };
-    readAll(record_.options);
+    readAll(options_);
     EXPECT_EQ(holders().alertLevel, "maxi");
     const auto ofEmptyFile = acting(holders());
     write(wholeFile);
-    readAll(record_.options);
+    readAll(options_);
     EXPECT_EQ(acting(holders()), ofEmptyFile) << "a missing value acts as the one that stands in the whole file";
     open(dialog_);
     for (const O clicked :
@@ -91,26 +101,27 @@ TEST_F(OptionsDialogTest, DefaultsAndClicksActAtOnceAndAreFoundAtTheNextOpening)
         OptionsStore later{files_};
         readAll(later);
         EXPECT_EQ(acting(holders()), acting(later.holders)) << controlName(clicked);
-        EXPECT_EQ(record_.oracle.realThrow, option(key::tirada) == "real") << controlName(clicked);
-        OptionsDialog again{record_, {autostart_, boxes_, taskBar_}};
+        EXPECT_EQ(options_.holders.realThrow, option(key::tirada) == "real") << controlName(clicked);
+        OptionsDialog again{options_, state_, {autostart_, boxes_, taskBar_}, modules};
         open(again);
         EXPECT_EQ(again.state()[clicked].on, dialog_.state()[clicked].on) << controlName(clicked);
     }
-    EXPECT_EQ(files_.at("\\opciones.ini"), base::toWestern(wholeFile)) << "each change went to its own line, and back";
+    EXPECT_EQ(files_.at("\\opciones.ini"), base::toWindows1252(wholeFile))
+        << "each change went to its own line, and back";
 }
 
 TEST_F(OptionsDialogTest, OpeningTurnsTheAlertLevelToTheLoudestAndLeavesAWholeFileAlone) {
     write(wholeFile);
-    record_.options.readAtStart();
+    options_.readAtStart();
     ASSERT_EQ(holders().alertLevel, "zero");
     open(dialog_);
     EXPECT_EQ(holders().alertLevel, "maxi") << "English text against the Spanish table";
-    EXPECT_EQ(files_.at("\\opciones.ini"), base::toWestern(wholeFile));
+    EXPECT_EQ(files_.at("\\opciones.ini"), base::toWindows1252(wholeFile));
 
     dialog_.choose(OptionList::ComboBio, 5);
     EXPECT_EQ(option(key::nivelAlertas), "Medium (change of phase + critical  + actual s.)");
     EXPECT_EQ(holders().alertLevel, "maxi");
-    record_.options.readAtStart();
+    options_.readAtStart();
     EXPECT_EQ(holders().alertLevel, "med1") << "the next start reads the file";
 
     dialog_.choose(OptionList::Combolist, 5);
@@ -124,7 +135,7 @@ TEST_F(OptionsDialogTest, TheAutostartEntryFollowsTheBoxAndIsRenewedAtEachOpenin
     EXPECT_EQ(option(key::iniciarConWindows), "True");
 
     autostart_.entries.clear(); // somebody took it away
-    OptionsDialog again{record_, {autostart_, boxes_, taskBar_}};
+    OptionsDialog again{options_, state_, {autostart_, boxes_, taskBar_}, modules};
     open(again);
     EXPECT_EQ(autostart_.entries.size(), 1U);
     again.click(O::CheckWin);
@@ -148,15 +159,15 @@ TEST_F(OptionsDialogTest, ThePersonalTipNeedsThePanelAtTheBottom) {
     panelAt(platform::TaskBarPosition::bottomEdge);
     dialog_.click(O::OptionPersonal);
     EXPECT_EQ(boxes_.shown.size(), 1U);
-    EXPECT_TRUE(record_.shell.taskBarAtBottom);
+    EXPECT_TRUE(state_.taskBarAtBottom);
     EXPECT_FALSE(dialog_.state()[O::CheckNoSound].enabled);
     EXPECT_EQ(holders().estiloTooltips, "personal");
 
     panelAt(platform::TaskBarPosition::topEdge);
-    OptionsDialog later{record_, {autostart_, boxes_, taskBar_}};
+    OptionsDialog later{options_, state_, {autostart_, boxes_, taskBar_}, modules};
     open(later);
     EXPECT_EQ(boxes_.shown.size(), 2U) << "a stored personal style is tested at each opening";
-    EXPECT_FALSE(record_.shell.taskBarAtBottom);
+    EXPECT_FALSE(state_.taskBarAtBottom);
     EXPECT_EQ(option(key::estiloTooltips), "windows xp");
     EXPECT_FALSE(later.state()[O::CheckNoSound].enabled) << "the file said personal when the dialog opened";
 }

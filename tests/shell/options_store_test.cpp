@@ -69,7 +69,8 @@ TEST_F(OptionsStoreTest, ComparisonsAreExact) {
     files_.at("\\opciones.ini") = "[opciones]\r\nMinimizar=Systray\r\ntipocartas=foo\r\nHemisferio=sur\r\n"
                                   "Nivel Alertas=Medium (change of phase + critical  + actual s.)\r\n";
     options_.readAtStart();
-    options_.readAtModuleLoad(true);
+    options_.readAtModuleLoad();
+    options_.readAtCardOfDayLoad();
     EXPECT_EQ(options_.holders.minimizeTo, "toolbar");
     EXPECT_EQ(options_.holders.tipocartas, "") << "no deck is selected";
     EXPECT_EQ(options_.holders.hemisferio, "Norte");

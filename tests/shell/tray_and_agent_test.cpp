@@ -18,10 +18,10 @@ struct TipWatchTest : testing::Test {
     TipWatch watch;
     bool onIcon = true;
 
-    TipWatch::MoveDeed move(std::string_view tooltips = on) { return watch.pointerMoved(tooltips, true, state); }
-    TipWatch::TickDeed tick(std::string_view tooltips = on) { return watch.tick(tooltips, onIcon, state); }
+    TipWatch::MoveAction move(std::string_view tooltips = on) { return watch.pointerMoved(tooltips, true, state); }
+    TipWatch::TickAction tick(std::string_view tooltips = on) { return watch.tick(tooltips, onIcon, state); }
     /// Ticks until something is to be done; how many it took, 0 when nothing came in a minute.
-    int ticksUntil(TipWatch::TickDeed deed) {
+    int ticksUntil(TipWatch::TickAction deed) {
         for (int n = 1; n <= 600; ++n)
             if (tick() == deed) return n;
         return 0;
@@ -29,19 +29,19 @@ struct TipWatchTest : testing::Test {
 };
 
 TEST_F(TipWatchTest, RestOfHalfASecondRaisesOneTipThatGoesWithThePointer) {
-    EXPECT_EQ(tick(), TipWatch::TickDeed::none) << "nobody has come yet";
-    EXPECT_EQ(move(), TipWatch::MoveDeed::measure);
-    for (int n = 0; n < 4; ++n) EXPECT_EQ(tick(), TipWatch::TickDeed::none);
+    EXPECT_EQ(tick(), TipWatch::TickAction::none) << "nobody has come yet";
+    EXPECT_EQ(move(), TipWatch::MoveAction::measure);
+    for (int n = 0; n < 4; ++n) EXPECT_EQ(tick(), TipWatch::TickAction::none);
     onIcon = false;
-    EXPECT_EQ(tick(), TipWatch::TickDeed::takeAway) << "gone in time: the next visit begins afresh";
+    EXPECT_EQ(tick(), TipWatch::TickAction::takeAway) << "gone in time: the next visit begins afresh";
     onIcon = true;
     move();
-    EXPECT_EQ(ticksUntil(TipWatch::TickDeed::raise), 5);
+    EXPECT_EQ(ticksUntil(TipWatch::TickAction::raise), 5);
     EXPECT_TRUE(state.trayBusy);
-    EXPECT_EQ(ticksUntil(TipWatch::TickDeed::raise), 0) << "the same tip comes up again";
+    EXPECT_EQ(ticksUntil(TipWatch::TickAction::raise), 0) << "the same tip comes up again";
     onIcon = false;
     state.tipShown = true;
-    EXPECT_EQ(tick(), TipWatch::TickDeed::takeAway);
+    EXPECT_EQ(tick(), TipWatch::TickAction::takeAway);
     EXPECT_FALSE(state.trayBusy || state.tipShown || watch.wantsTicks(on));
 }
 
@@ -50,71 +50,77 @@ TEST_F(TipWatchTest, ClickBlocksUntilThePointerHasLeft) {
     tick();
     watch.clicked(state);
     EXPECT_FALSE(watch.wantsTicks(on));
-    EXPECT_EQ(move(), TipWatch::MoveDeed::none) << "nothing is measured for a busy icon";
-    EXPECT_EQ(ticksUntil(TipWatch::TickDeed::raise), 0);
+    EXPECT_EQ(move(), TipWatch::MoveAction::none) << "nothing is measured for a busy icon";
+    EXPECT_EQ(ticksUntil(TipWatch::TickAction::raise), 0);
     onIcon = false;
-    EXPECT_EQ(tick(), TipWatch::TickDeed::takeAway);
+    EXPECT_EQ(tick(), TipWatch::TickAction::takeAway);
     onIcon = true;
     move();
-    EXPECT_EQ(ticksUntil(TipWatch::TickDeed::raise), 5);
+    EXPECT_EQ(ticksUntil(TipWatch::TickAction::raise), 5);
 }
 
 TEST_F(TipWatchTest, BoxThatGivesTheIconFreeLetsTheWaitingTipUp) {
     watch.clicked(state);
     move();
-    ticksUntil(TipWatch::TickDeed::raise);
+    ticksUntil(TipWatch::TickAction::raise);
     state.trayBusy = false;
-    EXPECT_EQ(tick(), TipWatch::TickDeed::raise);
+    EXPECT_EQ(tick(), TipWatch::TickAction::raise);
 }
 
 TEST_F(TipWatchTest, SwitchedOffOrHeldBackItSleeps) {
-    EXPECT_EQ(move(off), TipWatch::MoveDeed::showName);
+    EXPECT_EQ(move(off), TipWatch::MoveAction::showName);
     EXPECT_FALSE(watch.wantsTicks(off));
-    for (int n = 0; n < 20; ++n) EXPECT_EQ(tick(off), TipWatch::TickDeed::none);
-    EXPECT_EQ(ticksUntil(TipWatch::TickDeed::raise), 5) << "ticks with tips off must not count";
+    for (int n = 0; n < 20; ++n) EXPECT_EQ(tick(off), TipWatch::TickAction::none);
+    EXPECT_EQ(ticksUntil(TipWatch::TickAction::raise), 5) << "ticks with tips off must not count";
 
     TipWatch held;
     held.pointerMoved(on, false, state);
     EXPECT_FALSE(held.wantsTicks(on)) << "a module is loading, or a description stands";
 }
 
-/// Counts how often the lines are worked out.
-struct Lines : TipSource {
-    int calls = 0;
-    TipLines tipLines() override {
+/// A line that counts how often it is worked out.
+struct Line : TipLineSource {
+    explicit Line(const char* words) : text(words) {}
+    std::string tipLine(base::DateValue) override {
         ++calls;
-        return {"Card of Day: VIII. Justice", "Zodiac Sign: Scorpio", "Biorhythms (avg.): -39.20 % (<)", "Moon: 21%"};
+        return text;
     }
+    std::string text;
+    int calls = 0;
 };
 
-TEST(TrayTip, IsBuiltOnceFromDatePlanetAndFourLines) {
-    Lines source;
-    const std::string lines = "Card of Day: VIII. Justice\r\nZodiac Sign: Scorpio\r\n"
-                              "Biorhythms (avg.): -39.20 % (<)\r\nMoon: 21%";
-    EXPECT_EQ(balloonText({1975, 3, 14}, {2026, 11, 15}, source), "11/15/2026 (The Sun)\r\n" + lines);
-    const PersonalTip tip = personalTip({1975, 3, 14}, {2026, 11, 18}, source);
+struct TrayTip : testing::Test {
+    Line card{"Card of Day: VIII. Justice"};
+    Line sign{"Zodiac Sign: Scorpio"};
+    std::array<TipLineSource*, 2> sources{&card, &sign};
+    const base::DateValue noon = base::dateValueOf({2026, 11, 15}, {12, 0, 0});
+};
+
+TEST_F(TrayTip, IsBuiltOnceFromDatePlanetAndALineASource) {
+    const std::string lines = "Card of Day: VIII. Justice\r\nZodiac Sign: Scorpio";
+    EXPECT_EQ(balloonText({1975, 3, 14}, noon, sources), "11/15/2026 (The Sun)\r\n" + lines);
+    const PersonalTip tip = personalTip({1975, 3, 14}, noon + 3, sources);
     EXPECT_EQ(tip.date, "11/18/2026 (Mercury)");
     EXPECT_EQ(tip.lines, lines);
-    EXPECT_EQ(source.calls, 2);
+    EXPECT_EQ(sign.calls, 2);
 }
 
-TEST(TrayTip, AnyOfThreeMarksMeansNoBirthDate) {
+TEST_F(TrayTip, AnyOfThreeMarksMeansNoBirthDate) {
     const test::Table<base::CivilDate, const char*> rows{
         {{1900, 1, 1}, "the mark itself"},
         {{1975, 3, 1}, "a real first of March"},
         {{1975, 1, 14}, "a real January"},
         {{1900, 3, 14}, "a real 1900"},
     };
-    Lines source;
     for (const auto& [birth, why] : rows) {
-        EXPECT_EQ(balloonText(birth, {2026, 11, 15}, source),
+        EXPECT_EQ(balloonText(birth, noon, sources),
                   "ToolTps dinámicos cuando se actualice la fecha de nacimiento para los biorritmos!")
             << why;
-        const PersonalTip tip = personalTip(birth, {2026, 11, 15}, source);
+        const PersonalTip tip = personalTip(birth, noon, sources);
         EXPECT_TRUE(tip.date.empty()) << why;
         EXPECT_EQ(tip.lines, "Dinamic ToolTps \r\nwhen the date of birth \r\nbe updated for the biorhythms!");
     }
-    EXPECT_EQ(source.calls, 0) << "no line may be worked out";
+    EXPECT_EQ(card.calls, 0) << "no line may be worked out";
 }
 
 TEST(TaskBarMetrics, ReportAndEdge) {
@@ -145,26 +151,26 @@ TEST(PopupPlaces, NotificationTakesItsSizeFromTheLength) {
 TEST(PopupPlaces, NotificationStandsOnThePanelOrLeavesItsRoomFree) {
     ScreenMeasures screen{0, 0, 1280, 800, 0, 0};
     EXPECT_EQ(notifLeft(screen, 340), 1280 - 340 - 33);
-    EXPECT_EQ(notifStart(screen), 800);
-    EXPECT_EQ(notifStanding(screen, 120), 800 - 120 - 29);
-    EXPECT_EQ(notifGone(screen, 120), 920);
+    EXPECT_EQ(notifStartTop(screen), 800);
+    EXPECT_EQ(notifTop(screen, 120), 800 - 120 - 29);
+    EXPECT_EQ(notifHiddenTop(screen, 120), 920);
     screen.panelBottom = 24;
-    EXPECT_EQ(notifStanding(screen, 120), 651) << "a thin panel";
+    EXPECT_EQ(notifTop(screen, 120), 651) << "a thin panel";
     screen.panelBottom = 44;
-    EXPECT_EQ(notifStanding(screen, 120), 636) << "a thick panel";
+    EXPECT_EQ(notifTop(screen, 120), 636) << "a thick panel";
     screen.panelRight = 60;
     EXPECT_EQ(notifLeft(screen, 340), 880);
     const ScreenMeasures second{1280, 100, 1920, 1080, 0, 0};
-    EXPECT_EQ(notifStanding(second, 120), 1031);
+    EXPECT_EQ(notifTop(second, 120), 1031);
     EXPECT_EQ(notifLeft(second, 340), 2827);
 }
 
 TEST(PopupPlaces, PersonalTipStandsOverTheLowestTwentieth) {
     const ScreenMeasures screen{0, 0, 1280, 1000, 0, 30};
-    EXPECT_TRUE(personalTipMayStand(screen, 960, true));
-    EXPECT_FALSE(personalTipMayStand(screen, 950, true)) << "the bound itself is too high";
-    EXPECT_FALSE(personalTipMayStand(screen, 900, true));
-    EXPECT_TRUE(personalTipMayStand(screen, 900, false)) << "a panel elsewhere does not stop it";
+    EXPECT_TRUE(personalTipFits(screen, 960, true));
+    EXPECT_FALSE(personalTipFits(screen, 950, true)) << "the bound itself is too high";
+    EXPECT_FALSE(personalTipFits(screen, 900, true));
+    EXPECT_TRUE(personalTipFits(screen, 900, false)) << "a panel elsewhere does not stop it";
 
     EXPECT_EQ(personalTipTop(screen, 104), 857) << "2150 twips are 143 pixels";
     EXPECT_EQ(personalTipTop(screen, 90), 857);
@@ -190,7 +196,7 @@ struct BackgroundAgent : testing::Test {
         timeUpTick(agent, base::dateValueOf(day, {second / 3600 % 24, second / 60 % 60, second % 60}), false);
     }
 
-    AgentRecord agent;
+    AgentState agent;
 };
 
 TEST_F(BackgroundAgent, UptimeGoesOnOverMidnightAndDaysCount) {
@@ -228,17 +234,6 @@ TEST_F(BackgroundAgent, AlertsRunEverySixtiethHalfMinute) {
         for (int i = 1; i < 60; ++i) EXPECT_FALSE(timerBioTick(agent));
         EXPECT_TRUE(timerBioTick(agent));
     }
-}
-
-TEST_F(BackgroundAgent, TheCardIsWorkedOutOnceADay) {
-    tarot::CardState cards;
-    tipcartadia(agent, {2026, 11, 15}, "/home/ann/velmoriax", "marsellaone", cards);
-    EXPECT_EQ(agent.tipCard, "Card of Day: XVIII. The Moon");
-    cards.currentCard = 3;
-    tipcartadia(agent, {2026, 11, 15}, "/home/ann/velmoriax", "marsellaone", cards);
-    EXPECT_EQ(cards.currentCard, 3) << "nothing is computed a second time";
-    tipcartadia(agent, {2026, 11, 16}, "/home/ann/velmoriax", "marsellaone", cards);
-    EXPECT_EQ(agent.tipCard, "Card of Day: XIX. The Sun");
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/qt/disk_files.h"
+#include "desktop/disk_files.h"
 #include "support/fakes.h"
 
 #include <cstdlib>

@@ -6,12 +6,12 @@
 #include "platform/clock.h"
 #include "platform/document_opener.h"
 #include "platform/files.h"
-#include "platform/media.h"
 #include "platform/message_boxes.h"
 #include "platform/notification.h"
 #include "platform/pending_events.h"
 #include "platform/program_paths.h"
 #include "platform/random_source.h"
+#include "platform/song_player.h"
 #include "platform/sounds.h"
 #include "platform/task_bar.h"
 #include "platform/time_zone.h"
@@ -95,7 +95,7 @@ struct FakeSounds : platform::Sounds {
 };
 
 /// A song player by hand: only the songs laid ready can be opened, and `ends` brings the one that plays to its end.
-struct FakeMedia : platform::Media {
+struct FakeSongPlayer : platform::SongPlayer {
     std::set<std::string> songs;
     std::vector<std::string> starts; ///< the songs in the order in which they began to play
     int opens = 0;
@@ -212,13 +212,13 @@ struct FakeEvents : platform::PendingEvents {
     int runs = 0;
     int depth = 0;
     std::function<void()> whatRuns;
-    void letRun() override {
+    void processEvents() override {
         ++runs;
         ++depth;
         if (whatRuns) whatRuns();
         --depth;
     }
-    bool areRunning() const override { return depth > 0; }
+    bool isProcessing() const override { return depth > 0; }
 };
 
 struct FakeTaskBar : platform::TaskBar {

@@ -2,140 +2,45 @@
 #pragma once
 
 #include "shell/windows/module_window.h"
-#include "shell/windows/picture_box.h"
-#include "shell/windows/process.h"
+#include "shell/windows/window_context.h"
 #include "shell/windows/window_registry.h"
-#include "support/fakes.h"
+#include "support/desktop_fixture.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QBuffer>
-#include <QImage>
-#include <QTest>
-#include <QTimer>
-
-/// The font library keeps its caches to the end of the process and has no one to free them.
-extern "C" [[gnu::weak]] const char* __lsan_default_suppressions() {
-    return "leak:libfontconfig\n";
-}
-
-/// Windows without a desktop: a whole process of fakes, on the platform that draws to nowhere.
 namespace velmoriax::test {
 
-inline QApplication& application() {
-    static int argc = 1;
-    static char name[] = "test";
-    static char* argv[] = {name, nullptr};
-    static const bool offscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication* const instance = offscreen ? new QApplication(argc, argv) : nullptr;
-    return *instance;
-}
+struct FakeBirthAlerts : shell::BirthAlerts {
+    base::CivilDate birth{1900, 1, 1};
+    int runs = 0;
+    void loadAtStart() override {}
+    base::CivilDate birthDate() const override { return birth; }
+    void runAtStart() override { ++runs; }
+    void runHalfHourly() override { ++runs; }
+};
 
-/// The bytes of a small black picture with one pixel, the first if nothing else is said, that tells it from the others.
-inline std::string pictureBytes(QRgb mark, QPoint at = {}) {
-    QImage picture(8, 8, QImage::Format_RGB32);
-    picture.fill(Qt::black);
-    picture.setPixel(at, mark);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    picture.save(&buffer, "PNG");
-    return bytes.toStdString();
-}
+struct FakeTipPicture : shell::TipPictureSource {
+    base::PictureChoice choice;
+    base::PictureChoice tipPicture(base::DateValue) override { return choice; }
+};
 
-/// The first pixel of the back that is part of the reading windows.
-inline QRgb ownBack() {
-    return QImage(QStringLiteral(":/tarot/card_back.jpg")).pixel(0, 0);
-}
-
-class WindowFixture : public testing::Test {
+/// The shell without subsystems; a test adds the windows that it is about.
+class WindowFixture : public DesktopFixture {
 protected:
-    WindowFixture() { process.notification = &notification; }
+    /// Opens the module whose window is `Window`, made of the shell's context and these arguments.
+    template<typename Window, typename... Arguments>
+    Window& load(const shell::ModuleInfo& module, Arguments&... arguments) {
+        windows.add<Window>(module, context, arguments...);
+        return dynamic_cast<Window&>(windows.touch(module.windowName));
+    }
+    shell::ModuleWindow* loadedModule() const { return shell::ModuleWindow::loadedIn(windows); }
 
-    /// Windows that were released die before the process that they belong to.
-    ~WindowFixture() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-
-    /// The module's window, loaded by the registry as the program does it.
-    template<typename Window>
-    Window& load(shell::Module module) {
-        windows.addModule(module, [](shell::Process& p) -> shell::ModuleWindow* { return new Window(p); });
-        return static_cast<Window&>(windows.touch(module, process));
-    }
-
-    /// A control by its object name.
-    template<typename Control>
-    static Control& control(const QWidget& window, const char* name) {
-        auto* found = window.findChild<Control*>(QString::fromUtf8(name));
-        if (!found) throw std::logic_error(std::string("no control ") + name);
-        return *found;
-    }
-    /// What is written on a label, a button or in a field.
-    static std::string textOf(const QWidget& window, const char* name) {
-        const QVariant text = control<QWidget>(window, name).property("text");
-        if (!text.isValid()) throw std::logic_error(std::string("no text on ") + name);
-        return text.toString().toStdString();
-    }
-    static std::string tipOf(const QWidget& window, const char* name) {
-        return control<QWidget>(window, name).toolTip().toStdString();
-    }
-    /// The letters by which the controls of a window are reached together with Alt; each may stand once.
-    static QStringList mnemonicsOf(const QWidget& window) {
-        QStringList letters;
-        for (const QWidget* widget : window.findChildren<QWidget*>()) {
-            const QString text = widget->property(widget->inherits("QGroupBox") ? "title" : "text").toString();
-            const qsizetype mark = text.indexOf(u'&');
-            if (mark >= 0 && !widget->inherits("QMenu")) letters << text.mid(mark + 1, 1).toUpper();
-        }
-        return letters;
-    }
-    static bool shown(const QWidget& window, const char* name) {
-        return control<QWidget>(window, name).isVisibleTo(&window);
-    }
-    /// A pixel of the picture in a box.
-    static QRgb onShow(const QWidget& window, const char* name, QPoint at = {}) {
-        return control<shell::PictureBox>(window, name).picture().pixel(at);
-    }
-    static void press(const QWidget& window, const char* name) { control<QAbstractButton>(window, name).click(); }
-    /// A tick of a timer by its name.
-    static void fire(const QObject& owner, const char* timer) {
-        auto* found = owner.findChild<QTimer*>(QString::fromUtf8(timer));
-        if (!found) throw std::logic_error(std::string("no timer ") + timer);
-        QMetaObject::invokeMethod(found, "timeout");
-    }
-
-    shell::DesktopServices servicesOn(platform::Files& where) {
-        return {clock,
-                zone,
-                where,
-                sounds,
-                media,
-                opener,
-                boxes,
-                autostart,
-                events,
-                random,
-                tray,
-                taskBar,
-                VELMORIAX_LIBRARY_DIR};
-    }
-
-    QApplication& qt = application();
-    FakeClock clock;
-    FakeZone zone;
-    FakeFiles files;
-    FakeSounds sounds;
-    FakeMedia media;
-    FakeOpener opener;
-    FakeBoxes boxes;
-    FakeAutostart autostart;
-    FakeEvents events;
-    FakeRandom random;
-    FakeNotification notification;
-    FakeTaskBar taskBar;
-    desktop::DesktopTray tray{QIcon()};
-    shell::DesktopServices services = servicesOn(files);
-    shell::ProcessRecord record{files};
+    FakeBirthAlerts alerts;
+    FakeTipPicture tipPicture;
+    shell::ShellState state;
+    shell::AgentState agent;
+    shell::OptionsStore options{files};
+    shell::Subsystems subsystems{alerts, {}, tipPicture};
+    shell::WindowContext context{state, options, agent, services, subsystems, windows, &notification};
     shell::WindowRegistry windows{events};
-    shell::Process process{record, services, windows};
 };
 
 } // namespace velmoriax::test

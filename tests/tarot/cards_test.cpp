@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/date_text.h"
 #include "base/run_time_error.h"
-#include "support/helpers.h"
+#include "support/fakes.h"
 #include "tarot/card_catalogue.h"
 #include "tarot/card_descriptions.h"
+#include "tarot/card_tip.h"
 #include "tarot/drawn_card.h"
 
 #include <algorithm>
@@ -89,6 +90,20 @@ TEST(CardDescriptions, EveryCardHasItsPiecesAndLengthAndIsPlainAscii) {
     }
     EXPECT_TRUE(cardDescriptionPieces(8).back().ends_with("Sephirot: Hod (Splendor, astral plane)."));
     for (const int card : {-1, 0, 23}) EXPECT_TRUE(cardDescriptionPieces(card).empty()) << card;
+}
+
+TEST(CardTip, IsWorkedOutOnceADay) {
+    test::FakeFiles files;
+    shell::OptionsStore options(files);
+    options.holders.tipocartas = "marsellaone";
+    CardState cards;
+    CardTip tip(files, options, cards);
+    const base::DateValue noon = base::dateValueOf({2026, 11, 15}, {12, 0, 0});
+    EXPECT_EQ(tip.tipLine(noon), "Card of Day: XVIII. The Moon");
+    cards.currentCard = 3;
+    tip.tipLine(noon);
+    EXPECT_EQ(cards.currentCard, 3) << "nothing is computed a second time";
+    EXPECT_EQ(tip.tipLine(noon + 1), "Card of Day: XIX. The Sun");
 }
 
 } // namespace

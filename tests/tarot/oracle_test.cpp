@@ -52,8 +52,8 @@ TEST_F(Oracle, ThrowsForRealUnlessTheOptionIsEmptyOrObjective) {
     const test::Table<const char*, bool> rows{{"", false}, {"objetiva", false}, {"real", true}, {"Objetiva", true}};
     for (const auto& [value, real] : rows) {
         options.setOption(shell::key::tirada, value);
-        readThrowOption(state, options);
-        EXPECT_EQ(state.realThrow, real) << value;
+        readThrowOption(options);
+        EXPECT_EQ(options.holders.realThrow, real) << value;
     }
 }
 
@@ -175,18 +175,18 @@ TEST_F(Oracle, TellsTheCardAndReadsItsTextInTheCodePage) {
     EXPECT_EQ(spokenCard(spokenName(Suit::swords, 1), Orientation::normal), "Ace of Swords, upright");
 }
 
-using Mode = platform::Media::Mode;
+using Mode = platform::SongPlayer::Mode;
 
 struct Ambient : testing::Test {
     test::FakeFiles files;
-    test::FakeMedia media;
+    test::FakeSongPlayer songs;
     test::FakeEvents events;
     shell::OptionsStore options{files};
-    AmbientServices services{media, events, options, files.directory};
+    AmbientServices services{songs, events, options, files.directory};
     AmbientSound sound;
     std::string supplied = files.directory + "\\Are You Lonesome Tonight.mid";
 
-    Ambient() { media.songs = {supplied, "/music/own.mid"}; }
+    Ambient() { songs.songs = {supplied, "/music/own.mid"}; }
 };
 
 TEST_F(Ambient, StartsByTheTwoOptions) {
@@ -201,37 +201,37 @@ TEST_F(Ambient, StartsByTheTwoOptions) {
     for (const auto& [wanted, song, on, starts, why] : rows) {
         options.setOption(shell::key::soundAmbient, wanted);
         options.setOption(shell::key::songAmbient, song);
-        media.starts.clear();
+        songs.starts.clear();
         sound = {7, "", true};
         EXPECT_EQ(startAmbient(sound, services), on) << why;
         EXPECT_EQ(sound.timerOn, on) << why;
-        EXPECT_EQ(media.starts, starts) << why;
+        EXPECT_EQ(songs.starts, starts) << why;
         if (on) EXPECT_EQ(sound.midiDeviceId != 0, !starts.empty()) << why;
     }
 }
 
 TEST_F(Ambient, LetsEventsRunBetweenOpeningAndPlaying) {
     events.whatRuns = [this] {
-        EXPECT_EQ(media.mode(media.openDevice), Mode::stopped);
+        EXPECT_EQ(songs.mode(songs.openDevice), Mode::stopped);
         EXPECT_EQ(sound.midiDeviceId, 0) << "the device is known only afterwards";
-        tickMidi(sound, media);
+        tickMidi(sound, songs);
     };
     startAmbient(sound, services);
     EXPECT_EQ(events.runs, 1);
-    EXPECT_EQ(media.starts.size(), 1U);
+    EXPECT_EQ(songs.starts.size(), 1U);
 }
 
 TEST_F(Ambient, BeginsAgainOnlyFromTheEnd) {
     startAmbient(sound, services);
-    tickMidi(sound, media);
-    EXPECT_EQ(media.starts.size(), 1U);
-    media.ends();
-    tickMidi(sound, media);
-    EXPECT_EQ(media.starts, (std::vector{supplied, supplied}));
-    stopMidi(sound, media);
+    tickMidi(sound, songs);
+    EXPECT_EQ(songs.starts.size(), 1U);
+    songs.ends();
+    tickMidi(sound, songs);
+    EXPECT_EQ(songs.starts, (std::vector{supplied, supplied}));
+    stopMidi(sound, songs);
     EXPECT_NE(sound.midiDeviceId, 0) << "the number stays when the window closes";
-    tickMidi(sound, media);
-    EXPECT_EQ(media.starts.size(), 2U);
+    tickMidi(sound, songs);
+    EXPECT_EQ(songs.starts.size(), 2U);
 }
 
 TEST_F(Ambient, SwitchesAndTakesAChosenSongAtTheNextStart) {
@@ -241,14 +241,14 @@ TEST_F(Ambient, SwitchesAndTakesAChosenSongAtTheNextStart) {
     chooseSong(boxes, services);
     chooseSong(boxes, services);
     EXPECT_EQ(options.option(shell::key::songAmbient), "/music/own.mid") << "a cancel leaves it";
-    EXPECT_EQ(media.song, supplied) << "what plays goes on";
+    EXPECT_EQ(songs.song, supplied) << "what plays goes on";
 
     switchAmbientOff(sound, services);
-    EXPECT_EQ(media.openDevice, 0);
+    EXPECT_EQ(songs.openDevice, 0);
     EXPECT_FALSE(sound.timerOn);
     EXPECT_EQ(options.option(shell::key::soundAmbient), "nop");
     switchAmbientOn(sound, services);
-    EXPECT_EQ(media.starts.back(), "/music/own.mid");
+    EXPECT_EQ(songs.starts.back(), "/music/own.mid");
     EXPECT_EQ(options.option(shell::key::soundAmbient), "yes");
 }
 

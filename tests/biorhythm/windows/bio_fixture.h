@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "biorhythm/windows/biorhythm_windows.h"
 #include "biorhythm/windows/form_mod.h"
 #include "biorhythm/windows/form_snap.h"
 #include "biorhythm/windows/frm_bio.h"
@@ -22,17 +23,15 @@ struct BioWindows : test::WindowFixture {
         files.at("\\bio.dat") = "15,3,1980\r\n";
         files.at("\\horabio.dat") = "7,45\r\n";
         files.at("\\biofinal.dat") = "0,0,0\r\n";
-        windows.addSecondary("FrmProfiles", [](shell::Process& p) { return new FrmProfiles(p); });
-        windows.addSecondary("FormMod", [](shell::Process& p) { return new FormMod(p); });
-        windows.addSecondary("FrmCompaTab", [](shell::Process& p) { return new FrmCompaTab(p); });
+        addWindows(windows, context, biorhythms);
     }
 
-    frmBio& open() { return load<frmBio>(shell::Module::biorhythms); }
+    frmBio& open() { return windows.touch<frmBio>(); }
 
     static void step(const QWidget& window, const char* name, int value) {
         control<QSpinBox>(window, name).setValue(value);
     }
-    std::string option(const char* key) { return record.options.option(key); }
+    std::string option(const char* key) { return options.option(key); }
     std::string lines() { return files.at("\\perfiles.txt"); }
 
     /// Day, month and year of a date on its three faces.
@@ -42,6 +41,8 @@ struct BioWindows : test::WindowFixture {
     static std::string readingShown(const QWidget& view) {
         return textOf(view, "lblDayBio") + ' ' + textOf(view, "lblMonthBio") + ' ' + textOf(view, "lblYearBio");
     }
+
+    BiorhythmState biorhythms;
 };
 
 } // namespace velmoriax::biorhythm

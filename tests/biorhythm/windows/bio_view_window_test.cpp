@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bio_fixture.h"
 #include "biorhythm/windows/bio_plot.h"
-#include "biorhythm/windows/stepper.h"
+#include "widgets/spin_box.h"
 
 #include <QAccessible>
 #include <QTimer>
@@ -38,12 +38,12 @@ TEST_F(BioView, KeepsTheDayWithinTheMonthBeforeItCalculates) {
     step(view, "vsbDayBirth", 30);
     step(view, "vsbMonthBirth", 2);
     EXPECT_EQ(birthShown(view), "29 February 1980");
-    EXPECT_EQ(record.bio.birthDateText, "29/2/1980");
+    EXPECT_EQ(biorhythms.bio.birthDateText, "29/2/1980");
     step(view, "vsbYearBirth", 2000);
     EXPECT_EQ(birthShown(view), "28 February 2000");
     EXPECT_EQ(control<QSpinBox>(view, "vsbDayBirth").maximum(), 28);
     step(view, "vsbMonthBio", 2);
-    EXPECT_TRUE(record.bioView.manualDate);
+    EXPECT_TRUE(biorhythms.view.manualDate);
     step(view, "vsbDayBirth", 1);
     EXPECT_EQ(readingShown(view), "20 June 2026") << "a change of the birth returns to today";
 }
@@ -54,9 +54,9 @@ TEST_F(BioView, TakesTypedNumbersWhenTheyAreComplete) {
     QObject::connect(&year, &QSpinBox::valueChanged, &year, [&] { ++events; });
     year.selectAll();
     QTest::keyClicks(&year, "1976");
-    EXPECT_EQ(record.bioView.birth.date.year, 1980);
+    EXPECT_EQ(biorhythms.view.birth.date.year, 1980);
     QTest::keyClick(&year, Qt::Key_Return);
-    EXPECT_EQ(record.bioView.birth.date.year, 1976);
+    EXPECT_EQ(biorhythms.view.birth.date.year, 1976);
     EXPECT_EQ(events, 1);
     auto& month = control<QSpinBox>(view, "vsbMonthBirth");
     for (const auto& [keys, taken] : test::Table<const char*, int>{{"7", 7}, {"dec", 12}, {"13", 1}, {"ju", 1}}) {
@@ -70,21 +70,21 @@ TEST_F(BioView, TakesTypedNumbersWhenTheyAreComplete) {
 
 TEST_F(BioView, StepsTheReadingWhileAnArrowIsHeld) {
     QTest::mousePress(&left, Qt::LeftButton);
-    EXPECT_TRUE(record.bioView.manualDate);
+    EXPECT_TRUE(biorhythms.view.manualDate);
     EXPECT_EQ(readingShown(view), "20 June 2026") << "the first step comes with the first tick";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return record.bioView.reading <= base::CivilDate{2026, 6, 17}; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return biorhythms.view.reading <= base::CivilDate{2026, 6, 17}; }));
     QTest::mouseRelease(&left, Qt::LeftButton);
-    const base::CivilDate reached = record.bioView.reading;
+    const base::CivilDate reached = biorhythms.view.reading;
     QTest::qWait(250);
-    EXPECT_EQ(record.bioView.reading, reached);
+    EXPECT_EQ(biorhythms.view.reading, reached);
     QTest::mousePress(&right, Qt::RightButton);
     EXPECT_FALSE(control<QTimer>(view, "TimerButton").isActive());
     QTest::mouseClick(&right, Qt::LeftButton);
     QTest::keyClick(&right, Qt::Key_Space);
     QTest::keyClick(&right, Qt::Key_Right);
-    EXPECT_EQ(base::daysBetween(reached, record.bioView.reading), 3) << "a short click and each key step once";
+    EXPECT_EQ(base::daysBetween(reached, biorhythms.view.reading), 3) << "a short click and each key step once";
     QTest::keyClick(&right, Qt::Key_Left);
-    EXPECT_EQ(base::daysBetween(reached, record.bioView.reading), 2) << "the key decides, not the arrow that has it";
+    EXPECT_EQ(base::daysBetween(reached, biorhythms.view.reading), 2) << "the key decides, not the arrow that has it";
     press(view, "CmdHoy");
     EXPECT_EQ(readingShown(view), "20 June 2026");
 }
@@ -192,33 +192,33 @@ TEST_F(BioViewStart, TellsWhatToDoWhileNoBirthDateIsSet) {
     EXPECT_EQ(notification.texts.size(), 1U);
     press(view, "CmdAlert");
     EXPECT_EQ(notification.texts.size(), 2U);
-    EXPECT_TRUE(record.alerts.manualAlert);
+    EXPECT_TRUE(biorhythms.alerts.manualAlert);
 }
 
 TEST_F(BioView, AlertsForTheDateOnShow) {
-    record.options.holders.alertLevel = "solo";
+    options.holders.alertLevel = "solo";
     step(view, "vsbDayBio", 1);
     press(view, "CmdAlert");
     EXPECT_NE(notification.texts.at(0).find("Emotional: " + textOf(view, "LabelEmo").substr(1, 5)), std::string::npos);
 }
 
 TEST_F(BioView, SavesWhenItIsHiddenAndWhenItGoes) {
-    record.options.holders.bgSound = "SiBgSound";
+    options.holders.bgSound = "SiBgSound";
     step(view, "vsbDayBirth", 16);
     EXPECT_EQ(files.at("\\bio.dat"), "15,3,1980\r\n");
     view.hideToTray();
     EXPECT_EQ(files.at("\\bio.dat"), "16,3,1980\r\n");
     step(view, "vsbDayBirth", 17);
-    record.alerts.welcomeShown = record.alerts.manualAlert = true;
+    biorhythms.alerts.welcomeShown = biorhythms.alerts.manualAlert = true;
     press(view, "XPButtonEdit");
-    EXPECT_TRUE(record.shell.noTrayAdd);
-    view.unloadAtExit();
+    EXPECT_TRUE(state.noTrayAdd);
+    view.unload();
     EXPECT_EQ(files.at("\\bio.dat"), "17,3,1980\r\n");
     EXPECT_EQ(files.at("\\biofinal.dat"), "20,6,2026\r\n");
-    EXPECT_FALSE(record.alerts.welcomeShown || record.alerts.manualAlert);
+    EXPECT_FALSE(biorhythms.alerts.welcomeShown || biorhythms.alerts.manualAlert);
     EXPECT_EQ(sounds.played, std::vector<std::string>{"boop.wav"});
     EXPECT_FALSE(windows.loaded("FrmProfiles")) << "the windows that work on the view go with it";
-    EXPECT_FALSE(record.shell.noTrayAdd);
+    EXPECT_FALSE(state.noTrayAdd);
 }
 
 TEST_F(BioView, MnemonicsAreUnique) {

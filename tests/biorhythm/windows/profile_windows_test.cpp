@@ -23,7 +23,7 @@ struct WithProfiles : BioWindows {
 
     QWidget& beside(const char* button, const char* window) {
         press(view, button);
-        return *windows.loaded(window);
+        return windows.loaded(window)->widget();
     }
     static void choose(const QWidget& window, int row) {
         control<QListWidget>(window, "ListProfiles").setCurrentRow(row);
@@ -46,7 +46,7 @@ struct Profiles : WithProfiles {
     }
     QWidget& edit(int row) {
         askToEdit(row);
-        return *windows.loaded("FormMod");
+        return windows.loaded("FormMod")->widget();
     }
 };
 
@@ -59,7 +59,7 @@ struct CompatibilityWindow : WithProfiles {
 };
 
 TEST_F(Profiles, DeletionsReachTheViewThroughExitAlone) {
-    EXPECT_TRUE(record.shell.noTrayAdd);
+    EXPECT_TRUE(state.noTrayAdd);
     EXPECT_EQ(control<QListWidget>(list, "ListProfiles").count(), 3) << "blank lines are not listed";
     takeFocus(list);
     press(list, "CmdBorrar");
@@ -74,7 +74,7 @@ TEST_F(Profiles, DeletionsReachTheViewThroughExitAlone) {
     EXPECT_EQ(view.mainName(), "Bob") << "the stored name is gone: the last entry stands";
     EXPECT_EQ(birthShown(view), "15 March 1980");
     EXPECT_EQ(option("Perfil-Bio"), "Ann");
-    EXPECT_FALSE(record.shell.noTrayAdd || windows.loaded("FrmProfiles"));
+    EXPECT_FALSE(state.noTrayAdd || windows.loaded("FrmProfiles"));
 }
 
 TEST_F(Profiles, TheLastDeletionHidesTheListOfTheView) {
@@ -126,7 +126,7 @@ TEST_F(Profiles, TellsWhatFailedAndLeavesTheList) {
 }
 
 TEST_F(CompatibilityWindow, ComparesAndDrawsTheSecondProfile) {
-    EXPECT_TRUE(record.shell.noTrayAdd);
+    EXPECT_TRUE(state.noTrayAdd);
     EXPECT_EQ(textOf(window, "LabelProMain"), "Main profile: Ann");
     takeFocus(window);
     EXPECT_EQ(textOf(window, "LabelFis"), "Physical:") << "nobody is chosen yet";
@@ -146,7 +146,7 @@ TEST_F(CompatibilityWindow, ComparesAndDrawsTheSecondProfile) {
     EXPECT_EQ(textOf(view, "TextSecondProf"), "Bob");
     EXPECT_EQ(option("Dibujar secundario"), "1");
     tabs.setCurrentIndex(2);
-    EXPECT_FALSE(windows.loaded("FrmCompaTab") || record.shell.noTrayAdd);
+    EXPECT_FALSE(windows.loaded("FrmCompaTab") || state.noTrayAdd);
     EXPECT_EQ(series(), 8U) << "the chart keeps what was set last";
 }
 
@@ -172,8 +172,8 @@ TEST_F(CompatibilityWindow, APersonOfTheMainNameIsNoOther) {
 
 struct Snapshot : WithProfiles {
     void take(const QByteArrayList& encoders = pictureEncoders()) {
-        windows.addSecondary("FormSnap", [encoders](shell::Process& p) {
-            auto* window = new FormSnap(p);
+        windows.addSecondary(FormSnap::windowName, [this, encoders] {
+            auto window = std::make_unique<FormSnap>(context);
             window->encoders = encoders;
             return window;
         });

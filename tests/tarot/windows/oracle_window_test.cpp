@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/window_fixture.h"
-#include "tarot/windows/frm_oracle.h"
-#include "tarot/windows/question_box.h"
+#include "tarot/modules.h"
+#include "tarot/windows/tarot_fixture.h"
+#include "widgets/question_box.h"
 
 #include <QCalendarWidget>
 #include <QMimeData>
@@ -14,7 +14,7 @@ constexpr QRgb majorBack = 0xff00ff00;
 constexpr QRgb card = 0xff0000ff;
 
 /// A reading on 11/15/2026. The song is in its place.
-struct OracleWindow : test::WindowFixture {
+struct OracleWindow : TarotFixture {
     OracleWindow() {
         files.at("\\amenores\\reverso.jpg") = test::pictureBytes(suitBack);
         files.at("\\amenores\\reverso2.jpg") = test::pictureBytes(majorBack);
@@ -23,11 +23,11 @@ struct OracleWindow : test::WindowFixture {
             files.at(name) = test::pictureBytes(card);
         files.at("\\mtextos\\5bastos.txt") = "A quarrel";
         files.at("\\textos\\estrella17.txt") = "A star";
-        record.options.holders.tipocartas = "marsellaone";
-        media.songs = {files.directory + "\\Are You Lonesome Tonight.mid"};
+        options.holders.tipocartas = "marsellaone";
+        songs.songs = {files.directory + "\\Are You Lonesome Tonight.mid"};
     }
 
-    void open() { window = &load<Frmoracle>(shell::Module::oracle); }
+    void open() { window = &TarotFixture::open(oracleModule); }
     template<typename Control>
     Control& at(const char* name) {
         return control<Control>(*window, name);
@@ -36,10 +36,10 @@ struct OracleWindow : test::WindowFixture {
     bool shows(const char* name) { return shown(*window, name); }
     std::string spoken(const char* name) { return at<QWidget>(name).accessibleName().toStdString(); }
     std::string cardText() { return at<QPlainTextEdit>("TxtEdit").toPlainText().toStdString(); }
-    void click(const char* name) { Q_EMIT at<shell::PictureBox>(name).clicked(); }
+    void click(const char* name) { Q_EMIT at<widgets::PictureBox>(name).clicked(); }
     void ask(const char* box, const char* question) {
-        at<QuestionBox>(box).setPlainText(QString::fromUtf8(question));
-        QTest::keyClick(&at<QuestionBox>(box), Qt::Key_Return);
+        at<widgets::QuestionBox>(box).setPlainText(QString::fromUtf8(question));
+        QTest::keyClick(&at<widgets::QuestionBox>(box), Qt::Key_Return);
     }
 
     shell::ModuleWindow* window = nullptr;
@@ -67,7 +67,7 @@ TEST_F(OracleWindow, ReadsFromTheQuestionsToTheResetByKeyboard) {
 
     press(*window, "ARButtonReset");
     EXPECT_FALSE(shows("TxtEdit"));
-    EXPECT_TRUE(at<QuestionBox>("TxtBas").toPlainText().isEmpty());
+    EXPECT_TRUE(at<widgets::QuestionBox>("TxtBas").toPlainText().isEmpty());
     EXPECT_EQ(face("imgbas"), suitBack);
     EXPECT_EQ(face("imgfinal"), majorBack);
     EXPECT_EQ(spoken("imgfinal"), "Final card, face down");
@@ -75,8 +75,8 @@ TEST_F(OracleWindow, ReadsFromTheQuestionsToTheResetByKeyboard) {
 }
 
 TEST_F(OracleWindow, TurnsInvertedCardsAndKeepsTheirRecords) {
-    record.options.setOption(shell::key::tirada, "real");
-    record.options.setOption(shell::key::logResOracle, "yes");
+    options.setOption(shell::key::tirada, "real");
+    options.setOption(shell::key::logResOracle, "yes");
     random.numbers = {0.0F, 0.5F};
     open();
     ask("TxtEsp", "Hola mundo");
@@ -113,24 +113,24 @@ TEST_F(OracleWindow, HoldsTheDateFromTheFirstCardToTheReset) {
 TEST_F(OracleWindow, SwitchesTheSongAndEndsItWhenItCloses) {
     open();
     EXPECT_TRUE(shows("ImageSoundMidOn") && !shows("ImageSoundMidOff"));
-    media.ends();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return media.starts.size() == 2; })) << "it goes round";
+    songs.ends();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return songs.starts.size() == 2; })) << "it goes round";
     click("ImageSoundMidOn");
     EXPECT_TRUE(!shows("ImageSoundMidOn") && shows("ImageSoundMidOff"));
-    EXPECT_EQ(record.options.option(shell::key::soundAmbient), "nop");
+    EXPECT_EQ(options.option(shell::key::soundAmbient), "nop");
     click("ImageSoundMidOff");
     EXPECT_TRUE(shows("ImageSoundMidOn") && !shows("ImageSoundMidOff"));
-    EXPECT_NE(media.openDevice, 0);
+    EXPECT_NE(songs.openDevice, 0);
     window->close();
-    EXPECT_EQ(media.openDevice, 0);
+    EXPECT_EQ(songs.openDevice, 0);
 }
 
 TEST_F(OracleWindow, TakesPastedLinesAsOneQuestion) {
     open();
     QMimeData pasted;
     pasted.setText(QStringLiteral("Hola\r\n\nmundo"));
-    struct Box : QuestionBox {
-        using QuestionBox::insertFromMimeData;
+    struct Box : widgets::QuestionBox {
+        using widgets::QuestionBox::insertFromMimeData;
     } box;
     box.insertFromMimeData(&pasted);
     EXPECT_EQ(box.toPlainText(), QStringLiteral("Hola mundo"));

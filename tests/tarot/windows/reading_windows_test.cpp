@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/windows/turned_picture.h"
-#include "support/window_fixture.h"
-#include "tarot/windows/frm_name.h"
-#include "tarot/windows/frm_velmoriax.h"
+#include "tarot/modules.h"
+#include "tarot/windows/tarot_fixture.h"
+#include "widgets/turned_picture.h"
 
 #include <QLineEdit>
 
@@ -12,9 +11,9 @@ namespace {
 constexpr QRgb back = 0xffff0000;
 
 /// Card n has n in the blue of its first pixel, the back is red.
-struct ReadingWindows : test::WindowFixture {
+struct ReadingWindows : TarotFixture {
     ReadingWindows() {
-        record.options.holders.tipocartas = "marsellaone";
+        options.holders.tipocartas = "marsellaone";
         files.at("\\amenores\\reverso2.jpg") = test::pictureBytes(back);
         for (int card = 1; card <= majorCards; ++card)
             files.at("\\imagenes\\" + majorPictureFile(card)) = test::pictureBytes(0xff000000U + unsigned(card));
@@ -26,13 +25,13 @@ struct ReadingWindows : test::WindowFixture {
 };
 
 struct NumbersWindow : ReadingWindows {
-    shell::ModuleWindow& window = load<frmVelmoriax>(shell::Module::numbers);
-    shell::PictureBox& picture = control<shell::PictureBox>(window, "ImgVelmoriax");
+    shell::ModuleWindow& window = open(numbersModule);
+    widgets::PictureBox& picture = control<widgets::PictureBox>(window, "ImgVelmoriax");
 };
 
 struct NamesWindow : ReadingWindows {
-    shell::ModuleWindow& window = load<FrmName>(shell::Module::names);
-    shell::PictureBox& picture = control<shell::PictureBox>(window, "ImgNombre");
+    shell::ModuleWindow& window = open(namesModule);
+    widgets::PictureBox& picture = control<widgets::PictureBox>(window, "ImgNombre");
 };
 
 TEST_F(NumbersWindow, ShowsTheCardAndKeepsWhatTheResetLeaves) {
@@ -50,12 +49,12 @@ TEST_F(NumbersWindow, ShowsTheCardAndKeepsWhatTheResetLeaves) {
     EXPECT_EQ(onShow(window, "ImgVelmoriax"), back);
     EXPECT_EQ(textOf(window, "Text2") + textOf(window, "text1"), "");
     EXPECT_EQ(tipOf(window, "ImgVelmoriax"), "XIV. Temperance");
-    record.cards.currentCard = 3;
-    boxes.whileOpen = [this] { EXPECT_TRUE(record.cards.cardDescriptionOpen); };
+    cards.cards.currentCard = 3;
+    boxes.whileOpen = [this] { EXPECT_TRUE(state.cardDescriptionOpen); };
     Q_EMIT picture.clicked();
     ASSERT_EQ(boxes.shown.size(), 1U);
     EXPECT_EQ(boxes.shown[0].title, "XIV. Temperance");
-    EXPECT_FALSE(record.cards.cardDescriptionOpen);
+    EXPECT_FALSE(state.cardDescriptionOpen);
 }
 
 TEST_F(NumbersWindow, RefusesWhatIsNoNumberAndKeepsTheCard) {
@@ -74,14 +73,14 @@ TEST_F(NumbersWindow, RefusesWhatIsNoNumberAndKeepsTheCard) {
 TEST_F(NumbersWindow, TheCheckMarkAloneDecidesOnTheLog) {
     QAction& save = *window.menuAction("MnuRegResult");
     EXPECT_FALSE(save.isChecked());
-    record.options.setOption(shell::key::logResNumbers, "yes");
+    options.setOption(shell::key::logResNumbers, "yes");
     type(window, "text1", "1");
     press(window, "ARButtonAcep");
     EXPECT_FALSE(files.has("\\logs\\resNumbers.log"));
 
     for (int i = 0; i < 3; ++i) save.trigger();
-    EXPECT_EQ(record.options.option(shell::key::logResNumbers), "yes");
-    record.options.setOption(shell::key::logResNumbers, "no");
+    EXPECT_EQ(options.option(shell::key::logResNumbers), "yes");
+    options.setOption(shell::key::logResNumbers, "no");
     press(window, "ARButtonAcep");
     EXPECT_TRUE(files.at("\\logs\\resNumbers.log").ends_with("Resultant Card: mago1.jpg\r\n"));
 
@@ -94,7 +93,7 @@ TEST_F(NumbersWindow, TheCheckMarkAloneDecidesOnTheLog) {
 
 TEST_F(NamesWindow, WarnsOfEachFieldWithADigitAndReadsTheOthers) {
     window.menuAction("MnuRecResults")->trigger();
-    EXPECT_EQ(record.options.option(shell::key::logResNames), "yes");
+    EXPECT_EQ(options.option(shell::key::logResNames), "yes");
     type(window, "Text1nom", "Juan2");
     type(window, "Text2nom", "3");
     press(window, "ARButtonAcep");
@@ -128,9 +127,9 @@ TEST_F(NamesWindow, EnterWalksThroughTheControlsAndPressesNone) {
 }
 
 TEST_F(ReadingWindows, TakeTheCheckMarkFromTheOptionsWhenTheyLoad) {
-    record.options.setOption(shell::key::logResNames, "yes");
-    EXPECT_TRUE(load<FrmName>(shell::Module::names).menuAction("MnuRecResults")->isChecked());
-    EXPECT_FALSE(load<frmVelmoriax>(shell::Module::numbers).menuAction("MnuRegResult")->isChecked());
+    options.setOption(shell::key::logResNames, "yes");
+    EXPECT_TRUE(open(namesModule).menuAction("MnuRecResults")->isChecked());
+    EXPECT_FALSE(open(numbersModule).menuAction("MnuRegResult")->isChecked());
 }
 
 TEST(TurnedPicture, TurnsAnyFormatAndKeepsTheRim) {
@@ -144,14 +143,14 @@ TEST(TurnedPicture, TurnsAnyFormatAndKeepsTheRim) {
         picture = picture.convertToFormat(format);
         const auto black = [](const QImage& image, int x, int y) { return qGray(image.pixel(x, y)) == 0; };
 
-        const QImage whole = shell::turnedHalf(picture, 0);
+        const QImage whole = widgets::turnedHalf(picture, 0);
         EXPECT_TRUE(black(whole, 6, 8) && black(whole, 4, 6) && !black(whole, 0, 0)) << format;
-        const QImage inside = shell::turnedHalf(picture, 4);
+        const QImage inside = widgets::turnedHalf(picture, 4);
         EXPECT_TRUE(black(inside, 0, 0) && black(inside, 4, 6) && !black(inside, 6, 8)) << format;
-        EXPECT_EQ(shell::turnedHalf(inside, 4).convertToFormat(QImage::Format_RGB32),
+        EXPECT_EQ(widgets::turnedHalf(inside, 4).convertToFormat(QImage::Format_RGB32),
                   picture.convertToFormat(QImage::Format_RGB32));
     }
-    EXPECT_TRUE(shell::turnedHalf({}, 4).isNull());
+    EXPECT_TRUE(widgets::turnedHalf({}, 4).isNull());
 }
 
 } // namespace

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "biorhythm/biorhythm_state.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/notification.h"
+#include "platform/sounds.h"
+#include "shell/average_gauge.h"
+#include "shell/birth_alerts.h"
+#include "shell/options_store.h"
+#include "shell/tip_line_source.h"
+
+namespace velmoriax::biorhythm {
+
+/// What the shell and the Card of the Day ask of the biorhythms: the alerts, the line of the tray tip, the gauge.
+class BiorhythmServices : public shell::BirthAlerts, public shell::TipLineSource, public shell::AverageGaugeSource {
+public:
+    struct Desktop {
+        const platform::Clock& clock;
+        platform::Files& files;
+        platform::Sounds& sounds;
+        const shell::OptionsStore& options;
+    };
+
+    BiorhythmServices(BiorhythmState& state, const Desktop& desktop) : state_(state), desktop_(desktop) {}
+
+    /// What shows the alerts; until it is set, the alerts do nothing.
+    platform::Notification* notification = nullptr;
+
+    void loadAtStart() override;
+    base::CivilDate birthDate() const override;
+    void runAtStart() override;
+    void runHalfHourly() override;
+
+    std::string tipLine(base::DateValue now) override;
+
+    bool loadBirth() override;
+    void setWelcome(const std::string& text) override { state_.alerts.alertText = text; }
+    shell::AverageGauge drawBioMedia(base::DateValue now) override;
+
+private:
+    void runAlerts();
+
+    BiorhythmState& state_;
+    Desktop desktop_;
+};
+
+} // namespace velmoriax::biorhythm

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "program/modules.h"
+
+#include "biorhythm/windows/biorhythm_windows.h"
+#include "shell/windows/shell_windows.h"
+#include "sky/windows/sky_windows.h"
+#include "tarot/windows/tarot_windows.h"
+
+namespace velmoriax::program {
+
+Modules::Modules(shell::DesktopServices& desktop) :
+    options(desktop.files), signTip({desktop.files, desktop.zone}, sky),
+    moonTip({desktop.files, desktop.zone, desktop.events, options}, sky), cardTip(desktop.files, options, cards.cards),
+    biorhythmServices(biorhythms, {desktop.clock, desktop.files, desktop.sounds, options}),
+    subsystems{biorhythmServices, {&cardTip, &signTip, &biorhythmServices, &moonTip}, moonTip},
+    tarotContext{cards, sky, biorhythmServices}, context{state, options, agent, desktop, subsystems, windows},
+    windows(desktop.events) {
+    addWindows();
+}
+
+/// A new module is one line here.
+void Modules::addWindows() {
+    shell::addWindows(windows, context);
+    sky::addWindows(windows, context, sky);
+    tarot::addWindows(windows, context, tarotContext);
+    biorhythm::addWindows(windows, context, biorhythms);
+}
+
+void Modules::setNotification(platform::Notification* notification) {
+    context.notification = notification;
+    biorhythmServices.notification = notification;
+}
+
+} // namespace velmoriax::program

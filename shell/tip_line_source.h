@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/date_value.h"
+
+#include <string>
+
+namespace velmoriax::shell {
+
+/// Who works out a line of the tray tip: when a tip comes up, and at no other time.
+class TipLineSource {
+public:
+    virtual ~TipLineSource() = default;
+
+    /// The line for the local moment `now`, without a line end. May process pending events.
+    virtual std::string tipLine(base::DateValue now) = 0;
+};
+
+} // namespace velmoriax::shell

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class QWidget;
+
+namespace velmoriax::shell {
+
+/// A window as the registry handles it: a single instance, created and loaded at its first touch.
+class ManagedWindow {
+public:
+    virtual ~ManagedWindow() = default;
+
+    virtual QWidget& widget() = 0;
+
+    /// Runs once, at the first touch; a module may run it again on a live window.
+    virtual void load() = 0;
+
+    /// Unloads the window for real and takes it off the registry.
+    virtual void unload() = 0;
+
+    /// Sets the state to normal, shows the window and gives it the focus.
+    virtual void showNormalState() = 0;
+};
+
+} // namespace velmoriax::shell

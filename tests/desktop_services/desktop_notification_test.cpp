@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/desktop_notification.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QTest>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+/// Who shows notifications, on a bus and a thread of its own.
+class FakeServer : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    struct Shown {
+        uint replaced = 0;
+        QString title, body;
+        QStringList actions;
+        QVariantMap hints;
+    };
+    QList<Shown> shown;
+    QList<uint> closedIds;
+
+public Q_SLOTS:
+    uint Notify(const QString&, uint replaced, const QString&, const QString& title, const QString& body,
+                const QStringList& actions, const QVariantMap& hints, int) {
+        shown << Shown{replaced, title, body, actions, hints};
+        return replaced ? replaced : 7;
+    }
+    void CloseNotification(uint id) {
+        closedIds << id;
+        Q_EMIT NotificationClosed(id, 3);
+    }
+
+Q_SIGNALS:
+    void ActionInvoked(uint id, const QString& action);
+    void NotificationClosed(uint id, uint reason);
+};
+
+namespace velmoriax::desktop {
+namespace {
+
+TEST(DesktopNotification, SpeaksTheProtocolAndFollowsTheAnswers) {
+    DesktopNotification notification;
+    EXPECT_FALSE(notification.show("title", "text")) << "nobody is there yet";
+
+    QThread thread;
+    FakeServer server;
+    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "server");
+    ASSERT_TRUE(bus.registerObject("/org/freedesktop/Notifications", &server, QDBusConnection::ExportAllContents));
+    ASSERT_TRUE(bus.registerService("org.freedesktop.Notifications"));
+    server.moveToThread(&thread);
+    thread.start();
+
+    int chosen = 0;
+    int closed = 0;
+    QObject::connect(&notification, &DesktopNotification::chosen, [&] { ++chosen; });
+    QObject::connect(&notification, &DesktopNotification::closed, [&] { ++closed; });
+    ASSERT_TRUE(notification.show("Biorhythms alert!", "a < b & c\r\nnext"));
+    ASSERT_TRUE(notification.show("Biorhythms alert!", "again"));
+    ASSERT_EQ(server.shown.size(), 2);
+    EXPECT_EQ(server.shown[0].body, "a &lt; b &amp; c\nnext");
+    EXPECT_EQ(server.shown[0].replaced, 0U);
+    EXPECT_EQ(server.shown[1].replaced, 7U) << "one stands at a time";
+    EXPECT_EQ(server.shown[0].actions.value(0), "default");
+    EXPECT_EQ(server.shown[0].hints.value("urgency").typeId(), QMetaType::UChar) << "servers refuse another type";
+
+    QMetaObject::invokeMethod(&server, [&] { Q_EMIT server.ActionInvoked(8, "default"); });
+    QMetaObject::invokeMethod(&server, [&] { Q_EMIT server.ActionInvoked(7, "default"); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chosen == 1; })) << chosen;
+    QMetaObject::invokeMethod(&server, [&] { Q_EMIT server.NotificationClosed(7, 2); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return closed == 1; }));
+    notification.close();
+    ASSERT_TRUE(notification.show("Biorhythms alert!", "third"));
+    notification.close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !server.closedIds.isEmpty(); }));
+    EXPECT_EQ(server.closedIds, QList<uint>{7}) << "one that has gone is not closed again";
+    thread.quit();
+    thread.wait();
+}
+
+} // namespace
+} // namespace velmoriax::desktop
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
+
+#include "desktop_notification_test.moc"

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QApplication>
+
+/// The font library keeps its caches to the end of the process and has no one to free them.
+extern "C" [[gnu::weak]] const char* __lsan_default_suppressions() {
+    return "leak:libfontconfig\n";
+}
+
+namespace velmoriax::test {
+
+/// The application of the tests, on the platform that draws to nowhere.
+inline QApplication& application() {
+    static int argc = 1;
+    static char name[] = "test";
+    static char* argv[] = {name, nullptr};
+    static const bool offscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QApplication* const instance = offscreen ? new QApplication(argc, argv) : nullptr;
+    return *instance;
+}
+
+} // namespace velmoriax::test

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/calendar.h"
+
+#include "widgets/look.h"
+
+#include <QCalendarWidget>
+#include <QTextCharFormat>
+#include <QToolButton>
+
+namespace velmoriax::widgets {
+
+namespace {
+
+constexpr int firstYear = 100;
+constexpr int lastYear = 9999;
+
+QTextCharFormat lettersIn(const QColor& colour) {
+    QTextCharFormat format;
+    format.setForeground(colour);
+    return format;
+}
+
+/// The two arrows have no face of their own in the style of the house.
+void setArrow(const QCalendarWidget& calendar, const char* button, const char* picture) {
+    if (auto* arrow = calendar.findChild<QToolButton*>(QLatin1String(button)))
+        arrow->setIcon(QIcon(QLatin1String(picture)));
+}
+
+} // namespace
+
+void setUpCalendar(QCalendarWidget& calendar) {
+    calendar.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    calendar.setFirstDayOfWeek(Qt::Sunday);
+    calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendar.setDateRange({firstYear, 1, 1}, {lastYear, 12, 31});
+    QTextCharFormat header = lettersIn(look::gold());
+    header.setBackground(look::panel());
+    calendar.setHeaderTextFormat(header);
+    for (const auto day : {Qt::Saturday, Qt::Sunday}) calendar.setWeekdayTextFormat(day, lettersIn(look::gold()));
+    setArrow(calendar, "qt_calendar_prevmonth", ":/look/pictures/arrow_left-24.png");
+    setArrow(calendar, "qt_calendar_nextmonth", ":/look/pictures/arrow_right-24.png");
+}
+
+} // namespace velmoriax::widgets

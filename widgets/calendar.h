@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class QCalendarWidget;
+
+namespace velmoriax::widgets {
+
+/// Gives a calendar the look of the house, English names, weeks from Sunday and the years 100 to 9999.
+void setUpCalendar(QCalendarWidget& calendar);
+
+} // namespace velmoriax::widgets

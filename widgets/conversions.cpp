@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/conversions.h"
+
+#include "widgets/calendar.h"
+
+#include <QDateEdit>
+
+namespace velmoriax::widgets {
+
+void openPicker(QDateEdit& picker) {
+    picker.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    setUpCalendar(*picker.calendarWidget());
+    picker.setDateRange({100, 1, 1}, {9999, 12, 31});
+}
+
+} // namespace velmoriax::widgets

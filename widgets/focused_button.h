@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class QKeyEvent;
+class QWidget;
+
+namespace velmoriax::widgets {
+
+/// Lets Return press the push or tool button of `window` that has the focus, as the blank does: the toolkit gives that
+/// to dialogs alone. True when the key was taken.
+bool pressFocusedButton(const QWidget& window, const QKeyEvent& event);
+
+} // namespace velmoriax::widgets

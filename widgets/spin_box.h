@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QSpinBox>
+
+namespace velmoriax::widgets {
+
+/// A bounded number that is stepped or typed. What is typed counts when it is complete, not at each key, and a value
+/// set from code tells of itself inside the call, as one set by hand does. Its text is a control with a name of its
+/// own.
+class SpinBox : public QSpinBox {
+    Q_OBJECT
+    Q_PROPERTY(QString face READ face WRITE setFace)
+
+public:
+    explicit SpinBox(QWidget* parent = nullptr);
+
+    /// The object name of the text.
+    QString face() const;
+    void setFace(const QString& name);
+
+    /// Sets the value and tells nobody.
+    void showValue(int value);
+
+protected:
+    /// A wheel that passes over on its way through the window changes nothing.
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+/// The twelve months by name; a number or the beginning of a name can be typed.
+class MonthSpinBox : public SpinBox {
+    Q_OBJECT
+
+public:
+    explicit MonthSpinBox(QWidget* parent = nullptr);
+
+protected:
+    QString textFromValue(int value) const override;
+    int valueFromText(const QString& text) const override;
+    QValidator::State validate(QString& text, int& position) const override;
+};
+
+} // namespace velmoriax::widgets
