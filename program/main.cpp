@@ -7,7 +7,6 @@
 #include "desktop/system_clock.h"
 #include "program/modules.h"
 #include "shell/windows/frm_timer.h"
-#include "shell/windows/module_window.h"
 #include "shell/windows/notifications.h"
 #include "widgets/look.h"
 
@@ -92,9 +91,7 @@ int main(int argc, char** argv) {
     fatalBox.removeIcon = [&tray] { tray.remove(); };
 
     shell::FrmTimer hub(modules.context);
-    const auto exitLikeTheMenu = [&modules] {
-        if (auto* module = shell::ModuleWindow::loadedIn(modules.windows)) module->UnloadAllForms();
-    };
+    const auto exitLikeTheMenu = [&modules] { modules.switcher.exit(); };
     const desktop::ExitSignals exitSignals(exitLikeTheMenu);
     followSession(application, exitLikeTheMenu);
     try {

@@ -13,8 +13,8 @@ Modules::Modules(shell::DesktopServices& desktop) :
     moonTip({desktop.files, desktop.zone, desktop.events, options}, sky), cardTip(desktop.files, options, cards.cards),
     biorhythmServices(biorhythms, {desktop.clock, desktop.files, desktop.sounds, options}),
     subsystems{biorhythmServices, {&cardTip, &signTip, &biorhythmServices, &moonTip}, moonTip},
-    tarotContext{cards, sky, biorhythmServices}, context{state, options, agent, desktop, subsystems, windows},
-    windows(desktop.events) {
+    tarotContext{cards, sky, biorhythmServices}, context{state, options, agent, desktop, subsystems, windows, switcher},
+    switcher(context), windows(desktop.events) {
     addWindows();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "biorhythm/biorhythm_services.h"
+#include "shell/windows/module_switcher.h"
 #include "shell/windows/window_context.h"
 #include "shell/windows/window_registry.h"
 #include "sky/sky_tips.h"
@@ -37,6 +38,7 @@ struct Modules {
     shell::Subsystems subsystems;
     tarot::TarotContext tarotContext;
     shell::WindowContext context; ///< outlives the windows
+    shell::ModuleSwitcher switcher;
     shell::WindowRegistry windows;
 
 private:

@@ -2,6 +2,7 @@
 #include "shell/windows/frm_timer.h"
 
 #include "shell/modules.h"
+#include "shell/windows/module_switcher.h"
 #include "shell/windows/notifications.h"
 #include "shell/windows/window_registry.h"
 
@@ -28,7 +29,7 @@ void FrmTimer::load() {
     context_.subsystems.alerts.loadAtStart();
     context_.options.readAtStart();
     const ModuleInfo& first = firstModule(context_.windows.modules(), context_.options.leerModuloInicial());
-    context_.windows.touch(first.windowName);
+    context_.switcher.loadFirst(first.windowName);
     QTimer::singleShot(firstWindowDelayMs, this, [this] { context_.subsystems.alerts.runAtStart(); });
 }
 

@@ -22,4 +22,10 @@ public:
     virtual void showNormalState() = 0;
 };
 
+/// A window that is a module.
+class ManagedModule : public ManagedWindow {
+public:
+    virtual void removeTrayIcon() = 0;
+};
+
 } // namespace velmoriax::shell

@@ -3,6 +3,7 @@
 
 #include "desktop/desktop_tray.h"
 #include "shell/tray_tip.h"
+#include "shell/windows/module_switcher.h"
 #include "shell/windows/window_registry.h"
 #include "widgets/conversions.h"
 #include "widgets/focused_button.h"
@@ -20,8 +21,6 @@
 namespace velmoriax::shell {
 
 namespace {
-
-constexpr int handOverWaitMs = 50;
 
 /// What a title bar takes of the screen's height, as far as can be known before the window manager has made one.
 constexpr int titleBarHeight = 32;
@@ -83,17 +82,6 @@ void ModuleWindow::decideShowing() {
         QTimer::singleShot(0, this, showIfUnreachable);
     else
         connect(&tray, &desktop::DesktopTray::waitEnded, this, showIfUnreachable);
-}
-
-void ModuleWindow::handOverTo(std::string_view target) {
-    if (state().viewLoading) {
-        // A click that comes in while a load lets events run: it waits until the window that loads stands.
-        QTimer::singleShot(handOverWaitMs, this, [this, target] { handOverTo(target); });
-        return;
-    }
-    tray_.RemoveIconFromSystray();
-    windows().touch(target).showNormalState();
-    unload();
 }
 
 bool ModuleWindow::isLoaded() const {
@@ -177,10 +165,7 @@ void ModuleWindow::closeOrUnload() {
 }
 
 void ModuleWindow::UnloadAllForms() {
-    tray_.RemoveIconFromSystray();
-    state().closingAll = true;
-    windows().unloadAll();
-    QCoreApplication::exit(0);
+    context_.switcher.exit();
 }
 
 void ModuleWindow::closeEvent(QCloseEvent* event) {
@@ -203,16 +188,18 @@ void ModuleWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void ModuleWindow::minimised() {
-    if (!isMinimized()) return;
+    if (!isLoaded() || !isMinimized()) return;
     const bool toSystray = options().holders.minimizeTo == "systray";
     if (toSystray && desktop().tray.reachable()) hide();
     onMinimised(toSystray);
 }
 
 void ModuleWindow::run(Command command, std::string_view target, std::string_view name) {
+    if (!isLoaded() || !context_.switcher.takesCommands())
+        return; // a key may still be on its way to a window that is gone
     switch (command) {
     case Command::goTo:
-        return handOverTo(target);
+        return context_.switcher.handOver(target);
     case Command::hide:
         return hideToTray();
     case Command::options:

@@ -17,7 +17,7 @@ namespace velmoriax::shell {
 
 /// What the six modules have in common: the load routine around each one's own work, the hand-over to the next module,
 /// hiding and minimising, the tray icon and its menu, the exit.
-class ModuleWindow : public QMainWindow, public ManagedWindow {
+class ModuleWindow : public QMainWindow, public ManagedModule {
     Q_OBJECT
 
 public:
@@ -34,9 +34,7 @@ public:
 
     void unload() override;
     void showNormalState() override;
-
-    /// Goes to the module whose window has that name: icon off, target loaded and shown, this window unloaded for real.
-    void handOverTo(std::string_view target);
+    void removeTrayIcon() override { tray_.RemoveIconFromSystray(); }
 
     /// The way back from the tray; a module that has more to do than show itself adds it.
     virtual void returnFromTray() { showNormalState(); }

@@ -14,6 +14,7 @@
 
 namespace velmoriax::shell {
 
+class ModuleSwitcher;
 class WindowRegistry;
 
 /// What the shell asks of the subsystems.
@@ -31,6 +32,7 @@ struct WindowContext {
     DesktopServices& desktop;
     Subsystems& subsystems;
     WindowRegistry& windows;
+    ModuleSwitcher& switcher;
     platform::Notification* notification = nullptr; ///< set by the entry, once there is one
 };
 

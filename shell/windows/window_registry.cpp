@@ -19,10 +19,10 @@ WindowRegistry::WindowRegistry(const platform::PendingEvents& events) : events_(
 
 WindowRegistry::~WindowRegistry() {
     released_.clear();
-    // Off the list first: a window that goes may ask for the others.
     while (!loaded_.empty()) {
         const Loaded last = std::move(loaded_.back());
-        loaded_.pop_back();
+        loaded_.pop_back();           // a window that is deleted may ask for the others, and is not to find itself
+        last.window->widget().hide(); // spin boxes change as they are hidden, which the window still has to answer
     }
 }
 
@@ -39,7 +39,7 @@ ManagedWindow& WindowRegistry::touch(std::string_view name) {
     if (ManagedWindow* window = loaded(name)) return *window;
     auto created = factories_.find(name)->second();
     ManagedWindow& window = *created;
-    loaded_.push_back({std::string(name), isModule(name), std::move(created)});
+    loaded_.push_back({std::string(name), dynamic_cast<ManagedModule*>(created.get()), std::move(created)});
     window.load();
     return window;
 }
@@ -53,17 +53,13 @@ void WindowRegistry::unload(std::string_view name) {
     if (ManagedWindow* window = loaded(name)) window->unload();
 }
 
-ManagedWindow* WindowRegistry::loadedModule() const {
-    const auto found = std::find_if(loaded_.rbegin(), loaded_.rend(), [](const Loaded& each) { return each.isModule; });
-    return found == loaded_.rend() ? nullptr : found->window.get();
+ManagedModule* WindowRegistry::loadedModule() const {
+    const auto found = std::find_if(loaded_.rbegin(), loaded_.rend(), [](const Loaded& each) { return each.module; });
+    return found == loaded_.rend() ? nullptr : found->module;
 }
 
 bool WindowRegistry::isLoaded(const ManagedWindow& window) const {
     return std::ranges::any_of(loaded_, [&](const Loaded& each) { return each.window.get() == &window; });
-}
-
-bool WindowRegistry::isModule(std::string_view name) const {
-    return std::ranges::find(modules_, name, &ModuleInfo::windowName) != modules_.end();
 }
 
 void WindowRegistry::release(ManagedWindow& window) {
@@ -86,7 +82,7 @@ void WindowRegistry::deleteReleased() {
 void WindowRegistry::unloadAll(bool modules) {
     std::vector<std::string> names;
     for (const Loaded& each : loaded_)
-        if (each.isModule == modules) names.push_back(each.name);
+        if ((each.module != nullptr) == modules) names.push_back(each.name);
     for (const std::string& name : names) unload(name);
 }
 

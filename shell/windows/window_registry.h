@@ -68,7 +68,7 @@ public:
     void unload(std::string_view name);
 
     /// The module that is loaded; the latest one during a hand-over. Null before the first.
-    ManagedWindow* loadedModule() const;
+    ManagedModule* loadedModule() const;
 
     bool isLoaded(const ManagedWindow& window) const;
 
@@ -82,11 +82,10 @@ public:
 private:
     struct Loaded {
         std::string name;
-        bool isModule;
+        ManagedModule* module; ///< the window itself when it is one, else null
         std::unique_ptr<ManagedWindow> window;
     };
 
-    bool isModule(std::string_view name) const;
     void unloadAll(bool modules);
     void deleteReleased();
 

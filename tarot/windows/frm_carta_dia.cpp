@@ -3,6 +3,7 @@
 
 #include "base/date_text.h"
 #include "shell/window_position.h"
+#include "shell/windows/module_switcher.h"
 #include "shell/windows/notifications.h"
 #include "shell/windows/window_place.h"
 #include "shell/windows/window_registry.h"
@@ -197,11 +198,13 @@ void FrmCartaDia::tickSecond() {
 }
 
 void FrmCartaDia::showNewDay() {
-    state().refreshingView = true;
-    load();
-    if (!isLoaded()) return;
-    widgets::Topmost(*this); // and so it stays: nothing lowers it again
-    desktop().sounds.playWav("Trumpet.wav");
+    context().switcher.loadAnew([this] {
+        state().refreshingView = true;
+        load();
+        if (!isLoaded()) return;
+        widgets::Topmost(*this); // and so it stays: nothing lowers it again
+        desktop().sounds.playWav("Trumpet.wav");
+    });
 }
 
 void FrmCartaDia::tickMinute() {
@@ -215,10 +218,11 @@ void FrmCartaDia::tickMinute() {
 
 void FrmCartaDia::refresh() {
     if (state().viewLoading) return;
-    shell::ShellState& flags = state(); // outlives this window, should the load end in the program's exit
-    flags.refreshingView = true;
-    load();
-    flags.refreshingView = false;
+    context().switcher.loadAnew([this] {
+        state().refreshingView = true;
+        load();
+        state().refreshingView = false;
+    });
 }
 
 void FrmCartaDia::describeCard() {

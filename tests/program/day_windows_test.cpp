@@ -177,7 +177,7 @@ TEST_F(CardOfDay, AMutedMidnightAndAnotherModuleBringNoCard) {
     EXPECT_FALSE(isAway(window)) << "a window that the user has open stays open";
 
     option(shell::key::muteCod.data(), "nomuted");
-    window.handOverTo("FrmCalendar");
+    switcher.handOver("FrmCalendar");
     run({2026, 11, 15}, {23, 58, 0}, 180);
     EXPECT_EQ(loadedModule().module().windowName, "FrmCalendar");
     EXPECT_EQ(trumpets(), 0);
@@ -187,10 +187,10 @@ TEST_F(CardOfDay, AModuleLeftAtMidnightIsNoRefreshLater) {
     clock.set({2026, 11, 15}, {0, 0, 0});
     auto& window = start();
     run({2026, 11, 15}, {0, 0, 1}, 5);
-    window.handOverTo("FrmCalendar");
+    switcher.handOver("FrmCalendar");
     EXPECT_FALSE(state.refreshingView);
     option(shell::key::iniciarMinimizado.data(), "True");
-    loadedModule().handOverTo("FrmCartaDia");
+    switcher.handOver("FrmCartaDia");
     run({2026, 11, 15}, {0, 0, 20}, 20);
     EXPECT_FALSE(isAway(loadedModule()));
 }

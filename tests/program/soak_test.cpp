@@ -65,7 +65,7 @@ struct Soak : test::ProgramFixture {
     }
 
     void goTo(std::string_view module) {
-        if (module != loadedModule().module().windowName) loadedModule().handOverTo(module);
+        if (module != loadedModule().module().windowName) switcher.handOver(module);
         QTest::qWait(0);
     }
 

@@ -19,6 +19,7 @@ protected:
     shell::FrmTimer hub{modules.context};
     shell::ShellState& state = modules.state;
     shell::OptionsStore& options = modules.options;
+    shell::ModuleSwitcher& switcher = modules.switcher;
     shell::WindowRegistry& windows = modules.windows;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/windows/module_switcher.h"
 #include "shell/windows/module_window.h"
 #include "shell/windows/window_context.h"
 #include "shell/windows/window_registry.h"
@@ -29,7 +30,8 @@ protected:
     template<typename Window, typename... Arguments>
     Window& load(const shell::ModuleInfo& module, Arguments&... arguments) {
         windows.add<Window>(module, context, arguments...);
-        return dynamic_cast<Window&>(windows.touch(module.windowName));
+        switcher.loadFirst(module.windowName);
+        return dynamic_cast<Window&>(*windows.loaded(module.windowName));
     }
     shell::ModuleWindow* loadedModule() const { return shell::ModuleWindow::loadedIn(windows); }
 
@@ -39,7 +41,8 @@ protected:
     shell::AgentState agent;
     shell::OptionsStore options{files};
     shell::Subsystems subsystems{alerts, {}, tipPicture};
-    shell::WindowContext context{state, options, agent, services, subsystems, windows, &notification};
+    shell::WindowContext context{state, options, agent, services, subsystems, windows, switcher, &notification};
+    shell::ModuleSwitcher switcher{context};
     shell::WindowRegistry windows{events};
 };
 

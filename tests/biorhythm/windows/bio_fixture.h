@@ -26,7 +26,10 @@ struct BioWindows : test::WindowFixture {
         addWindows(windows, context, biorhythms);
     }
 
-    frmBio& open() { return windows.touch<frmBio>(); }
+    frmBio& open() {
+        switcher.loadFirst(frmBio::windowName);
+        return *windows.loaded<frmBio>();
+    }
 
     static void step(const QWidget& window, const char* name, int value) {
         control<QSpinBox>(window, name).setValue(value);

@@ -46,7 +46,8 @@ struct ModuleWindowTest : test::WindowFixture {
     }
 
     ModuleWindow& open(const ModuleInfo& module) {
-        return dynamic_cast<ModuleWindow&>(windows.touch(module.windowName));
+        switcher.loadFirst(module.windowName);
+        return *loadedModule();
     }
 
     std::vector<std::string> story;
@@ -56,7 +57,7 @@ TEST_F(ModuleWindowTest, AHandOverLoadsAndShowsItsTargetBeforeTheSourceUnloads) 
     files.at("\\opciones.ini") = "[opciones]\r\nIniciar Minimizado=True\r\n";
     ModuleWindow& source = open(first);
     EXPECT_FALSE(source.isVisible()) << "at the start the option counts";
-    source.handOverTo("Second");
+    switcher.handOver("Second");
     EXPECT_TRUE(loadedModule()->isVisible()) << "and no more after it";
     EXPECT_EQ(story, (std::vector<std::string>{"First loads", "Second loads", "First unloads"}));
     EXPECT_FALSE(state.viewLoading);
@@ -64,7 +65,8 @@ TEST_F(ModuleWindowTest, AHandOverLoadsAndShowsItsTargetBeforeTheSourceUnloads) 
 
 TEST_F(ModuleWindowTest, TheStepOfAModuleChangeSoundsButNotTheExit) {
     files.at("\\opciones.ini") = "[opciones]\r\nBackground Sound=SiBgSound\r\n";
-    open(first).handOverTo("Second");
+    open(first);
+    switcher.handOver("Second");
     EXPECT_EQ(sounds.played, std::vector<std::string>{"boop.wav"});
     loadedModule()->UnloadAllForms();
     EXPECT_EQ(sounds.played.size(), 1U);

@@ -18,7 +18,8 @@ struct TarotFixture : test::WindowFixture {
     TarotFixture() { addWindows(windows, context, tarot); }
 
     shell::ModuleWindow& open(const shell::ModuleInfo& module) {
-        return dynamic_cast<shell::ModuleWindow&>(windows.touch(module.windowName));
+        switcher.loadFirst(module.windowName);
+        return *loadedModule();
     }
 
     FakeGauge gauge;
