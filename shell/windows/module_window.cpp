@@ -16,6 +16,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace velmoriax::shell {
@@ -189,8 +190,9 @@ void ModuleWindow::keyPressEvent(QKeyEvent* event) {
 
 void ModuleWindow::minimised() {
     if (!isLoaded() || !isMinimized()) return;
-    const bool toSystray = options().holders.minimizeTo == "systray";
-    if (toSystray && desktop().tray.reachable()) hide();
+    // Without a tray the window stays on the taskbar, as with "toolbar".
+    const bool toSystray = options().holders.minimizeTo == "systray" && desktop().tray.reachable();
+    if (toSystray) hide();
     onMinimised(toSystray);
 }
 
@@ -225,11 +227,11 @@ void ModuleWindow::buildNavigation() {
     const ModuleNavigation& navigation = module_.navigation;
     for (const ButtonRow& row : navigation.buttons) connectButton(row);
     iconMenu_.setObjectName(widgets::qtText(navigation.iconMenu.name));
-    addEntries(&iconMenu_, navigation.iconMenu);
+    addEntries(iconMenu_, navigation.iconMenu);
     for (const Menu& table : navigation.mainMenus) {
         QMenu* menu = menuBar()->addMenu(widgets::qtText(table.caption));
         menu->setObjectName(widgets::qtText(table.name));
-        addEntries(menu, table);
+        addEntries(*menu, table);
     }
 }
 
@@ -241,24 +243,39 @@ void ModuleWindow::connectButton(const ButtonRow& row) {
         connect(picture, &widgets::PictureBox::clicked, this, act);
 }
 
-void ModuleWindow::addEntries(QMenu* menu, const Menu& table) {
+void ModuleWindow::addEntries(QMenu& menu, const Menu& table) {
     QMenu* submenu = nullptr;
     for (const MenuEntry& entry : table.entries) {
-        QMenu* parent = entry.depth > 0 && submenu ? submenu : menu;
-        if (entry.command == Command::separator) {
-            parent->addSeparator();
-            continue;
-        }
-        if (entry.command == Command::submenu) {
-            submenu = parent->addMenu(widgets::qtText(entry.caption));
+        QMenu& parent = entry.depth > 0 && submenu ? *submenu : menu;
+        switch (entry.command) {
+        case Command::separator:
+            parent.addSeparator();
+            break;
+        case Command::submenu:
+            submenu = parent.addMenu(widgets::qtText(entry.caption));
             submenu->setObjectName(widgets::qtText(entry.name));
-            continue;
+            break;
+        default:
+            addMenuAction(parent, entry);
         }
-        QAction* action = parent->addAction(widgets::qtText(entry.caption));
-        action->setObjectName(widgets::qtText(entry.name));
-        action->setCheckable(entry.checkable);
-        connect(action, &QAction::triggered, this, [this, entry] { run(entry.command, entry.target, entry.name); });
-        actions_.emplace(entry.name, action);
+    }
+    if (submenu) addUnlistedModules(*submenu, table);
+}
+
+void ModuleWindow::addMenuAction(QMenu& menu, const MenuEntry& entry) {
+    QAction* action = menu.addAction(widgets::qtText(entry.caption));
+    action->setObjectName(widgets::qtText(entry.name));
+    action->setCheckable(entry.checkable);
+    connect(action, &QAction::triggered, this, [this, entry] { run(entry.command, entry.target, entry.name); });
+    actions_.emplace(entry.name, action);
+}
+
+/// A module that the table does not know is reached as well.
+void ModuleWindow::addUnlistedModules(QMenu& submenu, const Menu& table) {
+    for (const ModuleInfo* each : windows().modules()) {
+        const bool listed = std::ranges::count(table.entries, each->windowName, &MenuEntry::target) > 0;
+        if (each != &module_ && !listed)
+            addMenuAction(submenu, goEntry(each->windowName, each->initialText, each->windowName));
     }
 }
 

@@ -90,7 +90,9 @@ private:
     void minimised();
     void run(Command command, std::string_view target, std::string_view name);
     void connectButton(const ButtonRow& row);
-    void addEntries(QMenu* menu, const Menu& table);
+    void addEntries(QMenu& menu, const Menu& table);
+    void addMenuAction(QMenu& menu, const MenuEntry& entry);
+    void addUnlistedModules(QMenu& submenu, const Menu& table);
 
     WindowContext& context_;
     const ModuleInfo& module_;
