@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/program_fixture.h"
+#include "support/supplied_files.h"
 
 #include <set>
 
@@ -16,6 +17,12 @@ struct Navigation : test::ProgramFixture {
         for (const ModuleInfo* each : windows.modules())
             if (each != &module) names.insert(each->windowName);
         return names;
+    }
+    /// The entry of the loaded module's popup that leads to another one; null when there is none.
+    QAction* popupEntryTo(const ModuleInfo& target) const {
+        for (const shell::MenuEntry& entry : loadedModule().module().navigation.iconMenu.entries)
+            if (entry.target == target.windowName) return loadedModule().menuAction(entry.name);
+        return loadedModule().menuAction(target.windowName); // one that the table does not list
     }
     template<typename Entries>
     static void addTargets(Names& targets, const Entries& entries) {
@@ -36,6 +43,23 @@ TEST_F(Navigation, EveryPopupAndEachWindowsOwnControlsLeadToTheFiveOthers) {
         EXPECT_EQ(iconMenu.entries.back().command, Command::exit) << module->windowName;
         EXPECT_EQ(iconMenu.entries.back().caption, "Exit");
     }
+}
+
+TEST_F(Navigation, EachEntryOfAPopupHandsOverToItsModule) {
+    files.contents = test::suppliedFiles(files.directory);
+    modules.biorhythmServices.loadAtStart();
+    options.readAtStart();
+    for (const ModuleInfo* source : windows.modules())
+        for (const ModuleInfo* target : windows.modules()) {
+            if (source == target) continue;
+            switcher.stage() == shell::Stage::empty ? switcher.loadFirst(source->windowName)
+                                                    : switcher.handOver(source->windowName);
+            QAction* entry = popupEntryTo(*target);
+            ASSERT_TRUE(entry) << source->windowName << " to " << target->windowName;
+            entry->trigger();
+            EXPECT_EQ(&loadedModule().module(), target) << source->windowName;
+            EXPECT_TRUE(loadedModule().isVisible());
+        }
 }
 
 TEST_F(Navigation, TheOptionsListNamesTheModulesInTheirOrder) {
