@@ -2,6 +2,7 @@
 #include "base/date_text.h"
 
 #include "base/number_text.h"
+#include "base/text_lines.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/number_text.h"
 
+#include "base/text_lines.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -11,7 +13,7 @@ namespace velmoriax::base {
 
 namespace {
 
-/// A binary fraction lies exactly half way between two texts of d decimals when it ends at the binary place d + 1:
+/// A binary fraction is exactly half way between two texts of d decimals when it ends at the binary place d + 1:
 /// then, and only then, its decimal expansion ends in a 5 at the decimal place d + 1.
 bool isHalfWay(double value, int decimals) {
     const double scaled = std::ldexp(value, decimals + 1);
@@ -78,12 +80,6 @@ int digitSum(std::string_view text) {
     for (const char c : text)
         if (isDigit(c)) sum += c - '0';
     return sum;
-}
-
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 } // namespace velmoriax::base

@@ -21,12 +21,13 @@ struct Accent {
     char32_t mark;
     std::u32string_view pairs;
 };
-constexpr std::array<Accent, 7> accents{{
+constexpr std::array<Accent, 8> accents{{
     {0x0300, U"AÀEÈIÌOÒUÙaàeèiìoòuù"},
     {0x0301, U"AÁEÉIÍOÓUÚYÝaáeéiíoóuúyý"},
     {0x0302, U"AÂEÊIÎOÔUÛaâeêiîoôuû"},
     {0x0303, U"AÃNÑOÕaãnñoõ"},
     {0x0308, U"AÄEËIÏOÖUÜYŸaäeëiïoöuüyÿ"},
+    {0x030A, U"AÅaå"},
     {0x0327, U"CÇcç"},
     {0x030C, U"SŠZŽsšzž"},
 }};
@@ -56,7 +57,7 @@ char32_t takeCharacter(std::string_view& text) {
     return sound ? character : noCharacter;
 }
 
-char westernByte(char32_t character) {
+char windows1252Byte(char32_t character) {
     if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) return static_cast<char>(character);
     const auto* found = std::ranges::find(upperControls, character);
     return found == upperControls.end() ? '?' : static_cast<char>(0x80 + (found - upperControls.begin()));
@@ -98,7 +99,7 @@ std::string toWindows1252(std::string_view utf8) {
                 utf8 = rest;
             }
         }
-        bytes += westernByte(character);
+        bytes += windows1252Byte(character);
     }
     return bytes;
 }

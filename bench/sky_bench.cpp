@@ -32,11 +32,9 @@ BENCHMARK(phaseInstant);
 void moonWindowRefresh(benchmark::State& state) {
     test::FakeEvents events;
     const sky::MoonEngine engine(events);
-    sky::SkyState record;
     base::DateValue moment = noon;
     for (auto _ : state) {
-        sky::moonIllumination(moment, record);
-        benchmark::DoNotOptimize(sky::refreshMoonDetails(engine, moment, false, record));
+        benchmark::DoNotOptimize(sky::refreshMoonDetails(engine, {moment, sky::moonIllumination(moment)}, false));
         moment += 0.37;
     }
     state.SetLabel("aim: under 100 us");

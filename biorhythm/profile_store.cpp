@@ -4,6 +4,7 @@
 #include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
+#include "base/text_lines.h"
 #include "base/windows1252.h"
 #include "biorhythm/field_text.h"
 
@@ -15,30 +16,13 @@ namespace {
 
 using Status = platform::Files::Status;
 
-constexpr std::string_view lineEnd = "\r\n";
-
 std::string listPath(const platform::Files& files) {
     return files.applicationDirectory() + "\\perfiles.txt";
 }
 
-/// A line of the file in its bytes, and the bytes that end it; none behind the last line of a file without a line end.
-struct RawLine {
-    std::string_view text;
-    std::string_view end;
-};
-
-RawLine takeLine(std::string_view& bytes) {
-    const std::size_t length = std::min(bytes.find_first_of(lineEnd), bytes.size());
-    const std::string_view behind = bytes.substr(length);
-    const std::size_t endLength = behind.starts_with(lineEnd) ? 2 : behind.empty() ? 0 : 1;
-    const RawLine line{bytes.substr(0, length), behind.substr(0, endLength)};
-    bytes.remove_prefix(length + endLength);
-    return line;
-}
-
-std::vector<RawLine> rawLines(std::string_view bytes) {
-    std::vector<RawLine> lines;
-    while (!bytes.empty()) lines.push_back(takeLine(bytes));
+std::vector<base::Line> linesOf(std::string_view bytes) {
+    std::vector<base::Line> lines;
+    while (!bytes.empty()) lines.push_back(base::takeLine(bytes, base::LineEnds::any));
     return lines;
 }
 
@@ -58,7 +42,7 @@ std::optional<std::size_t> placeOf(const std::vector<std::string>& names, std::s
 
 bool standsInFull(const platform::Files& files, std::string_view recordBytes) {
     const std::string bytes = files.read(listPath(files)).bytes;
-    return std::ranges::any_of(rawLines(bytes), [&](const RawLine& line) { return line.text == recordBytes; });
+    return std::ranges::any_of(linesOf(bytes), [&](const base::Line& line) { return line.text == recordBytes; });
 }
 
 /// A new temporary file's path; tells what failed and gives nothing when there is none.
@@ -73,10 +57,10 @@ std::optional<std::string> temporaryFile(platform::Files& files, platform::Messa
 std::string withoutLinesHolding(std::string_view bytes, std::string_view selected) {
     std::string kept;
     kept.reserve(bytes.size());
-    for (const auto& [text, end] : rawLines(bytes)) {
+    for (const auto& [text, end] : linesOf(bytes)) {
         if (text.find(selected) != std::string_view::npos) continue;
         kept += text;
-        kept += end.empty() ? lineEnd : end;
+        kept += end.empty() ? base::lineEnd : end;
     }
     return kept;
 }
@@ -114,7 +98,7 @@ std::string monthNumberFromName(std::string_view name, std::string_view previous
 std::vector<std::string> profileLines(const platform::Files& files) {
     const std::string bytes = files.read(listPath(files)).bytes;
     std::vector<std::string> lines;
-    for (const RawLine& line : rawLines(bytes))
+    for (const base::Line& line : linesOf(bytes))
         if (!line.text.empty()) lines.push_back(base::fromWindows1252(line.text));
     return lines;
 }
@@ -165,9 +149,9 @@ bool appendToCopy(platform::Files& files, const std::string& copyPath, std::stri
                   std::string_view timeText) {
     auto [status, bytes] = files.read(copyPath);
     if (status == Status::unreadable) return false;
-    const bool endsInsideLine = !bytes.empty() && lineEnd.find(bytes.back()) == std::string_view::npos;
-    if (endsInsideLine) bytes += lineEnd;
-    bytes.append(base::toWindows1252(profileLine(name, birth, timeText))).append(lineEnd);
+    const bool endsInsideLine = !bytes.empty() && base::lineEnd.find(bytes.back()) == std::string_view::npos;
+    if (endsInsideLine) bytes += base::lineEnd;
+    bytes.append(base::toWindows1252(profileLine(name, birth, timeText))).append(base::lineEnd);
     return files.replace(copyPath, bytes);
 }
 

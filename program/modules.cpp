@@ -10,7 +10,7 @@ namespace velmoriax::program {
 
 Modules::Modules(shell::DesktopServices& desktop) :
     options(desktop.files), signTip({desktop.files, desktop.zone}, sky),
-    moonTip({desktop.files, desktop.zone, desktop.events, options}, sky), cardTip(desktop.files, options, cards.cards),
+    moonTip({desktop.files, desktop.zone, desktop.events, options}), cardTip(desktop.files, options, cards.cards),
     biorhythmServices(biorhythms, {desktop.clock, desktop.files, desktop.sounds, options}),
     subsystems{biorhythmServices, {&cardTip, &signTip, &biorhythmServices, &moonTip}, moonTip},
     tarotContext{cards, sky, biorhythmServices}, context{state, options, agent, desktop, subsystems, windows, switcher},
@@ -21,7 +21,7 @@ Modules::Modules(shell::DesktopServices& desktop) :
 /// A new module is one line here.
 void Modules::addWindows() {
     shell::addWindows(windows, context);
-    sky::addWindows(windows, context, sky);
+    sky::addWindows(windows, context);
     tarot::addWindows(windows, context, tarotContext);
     biorhythm::addWindows(windows, context, biorhythms);
 }

@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/profile_text.h"
 
+#include "base/text_lines.h"
 #include "base/windows1252.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace velmoriax::shell {
 
 namespace {
 
-constexpr std::string_view blanks = " \t";
-
 std::string_view trim(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    return base::trimmed(text, " \t");
 }
 
 bool sameName(std::string_view a, std::string_view b) {
@@ -31,7 +29,7 @@ std::string_view upToLineEnd(std::string_view value) {
     return value.substr(0, value.find_first_of(std::string_view("\r\n\0", 3)));
 }
 
-/// One line of the file: its text without the line end, and where it stands.
+/// One line of the file: its text without the line end, and where it begins.
 struct Line {
     std::string_view text;
     std::size_t begin = 0;
@@ -39,12 +37,10 @@ struct Line {
 };
 
 std::optional<Line> lineAt(std::string_view file, std::size_t begin) {
-    if (begin >= file.size()) return std::nullopt;
-    const std::size_t feed = file.find('\n', begin);
-    const std::size_t next = feed == std::string_view::npos ? file.size() : feed + 1;
-    std::size_t end = feed == std::string_view::npos ? file.size() : feed;
-    if (end > begin && file[end - 1] == '\r') --end;
-    return Line{file.substr(begin, end - begin), begin, next};
+    std::string_view rest = file.substr(std::min(begin, file.size()));
+    if (rest.empty()) return std::nullopt;
+    const std::string_view text = base::takeLine(rest, base::LineEnds::feeds).text;
+    return Line{text, begin, file.size() - rest.size()};
 }
 
 std::optional<std::string_view> headerOf(const Line& line) {
@@ -94,7 +90,7 @@ Place find(std::string_view file, std::string_view section, std::string_view key
     return place;
 }
 
-std::string_view lineEndOf(std::string_view file) {
+std::string_view lineEndIn(std::string_view file) {
     const std::size_t feed = file.find('\n');
     const bool feedAlone = feed != std::string_view::npos && (feed == 0 || file[feed - 1] != '\r');
     return feedAlone ? "\n" : "\r\n";
@@ -102,7 +98,7 @@ std::string_view lineEndOf(std::string_view file) {
 
 std::string inserted(std::string_view file, std::size_t at, const std::string& line) {
     std::string result(file.substr(0, at));
-    const std::string lineEnd(lineEndOf(file));
+    const std::string lineEnd(lineEndIn(file));
     if (!result.empty() && result.back() != '\n') result += lineEnd;
     return result + line + lineEnd + std::string(file.substr(at));
 }
@@ -127,7 +123,7 @@ std::string withProfileValue(std::string_view file, std::string_view section, st
     const std::string line = std::string(key) + "=" + std::string(stored);
     if (place.sectionFound) return inserted(file, place.sectionEnd, line);
     const std::string header = "[" + std::string(section) + "]";
-    return inserted(file, file.size(), header + std::string(lineEndOf(file)) + line);
+    return inserted(file, file.size(), header + std::string(lineEndIn(file)) + line);
 }
 
 } // namespace velmoriax::shell

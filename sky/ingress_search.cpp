@@ -2,6 +2,7 @@
 #include "sky/ingress_search.h"
 
 #include "base/date_text.h"
+#include "base/text_lines.h"
 #include "base/windows1252.h"
 #include "sky/zodiac_tables.h"
 
@@ -12,13 +13,8 @@ namespace velmoriax::sky {
 
 namespace {
 
-/// Takes the next line off a table; empty at its end.
 std::string_view takeLine(std::string_view& table) {
-    const std::size_t feed = table.find('\n');
-    std::string_view line = table.substr(0, feed);
-    table.remove_prefix(feed == std::string_view::npos ? table.size() : feed + 1);
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    return line;
+    return base::takeLine(table, base::LineEnds::feeds).text;
 }
 
 void readDate(std::string_view text, base::DateValue& date) {

@@ -36,8 +36,9 @@ bool isMoonDateValid(base::DateValue date) {
 std::int32_t MoonEngine::lunationOfDate(base::DateValue date) const {
     std::int32_t lunation = base::nearestInt32(base::nearest(date - lunationZero) / meanLunation);
     const JulianDay target = julianDayFromDate(date) + halfSecond;
-    // Both comparisons are strict. A target that equalled the next new moon to the last bit would turn here for ever;
-    // the half second keeps moments of whole seconds away from that.
+    // Both comparisons are strict, so a target that equals the next new moon to the last bit would repeat a round for
+    // ever. That cannot happen: wherever a target is the instant of a new moon, in all the years of the calendar, the
+    // estimate is already the lunation that begins there.
     while (true) {
         events_.processEvents();
         const JulianDay begin = moonPhaseJulianDay(lunation, MoonPhase::newMoon);

@@ -14,7 +14,8 @@ constexpr JulianDay epoch = 2444238.5; ///< 1980 January 0.0
 constexpr double tropicalYear = 365.2422;
 constexpr double keplerTolerance = 1e-6;
 
-// Angles at the epoch in degrees, rates in degrees a day.
+// Duffett-Smith's elements of the orbits of Sun and Moon at the epoch 1980 January 0.0: angles in degrees, rates in
+// degrees a day. The corrections of the Moon's longitude below have his coefficients too.
 constexpr double sunLongitude = 278.83354;
 constexpr double sunPerigee = 282.596403;
 constexpr double earthEccentricity = 0.016718;
@@ -77,12 +78,12 @@ double keplerEccentricAnomaly(double meanAnomaly, double eccentricity) {
     return eccentric;
 }
 
-void moonIllumination(base::DateValue date, SkyState& state) {
+MoonLight moonIllumination(base::DateValue date) {
     const double day = julianDayFromDate(date) - epoch;
     const double sunAnomaly = sunMeanAnomaly(day);
     const double sun = sunEclipticLongitude(sunAnomaly);
-    state.moonAgeDegrees = moonTrueLongitude(day, sunAnomaly, sun) - sun;
-    state.moonIlluminatedFraction = (1 - std::cos(degreesToRadians(state.moonAgeDegrees))) / 2;
+    const double age = moonTrueLongitude(day, sunAnomaly, sun) - sun;
+    return {age, (1 - std::cos(degreesToRadians(age))) / 2};
 }
 
 } // namespace velmoriax::sky

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "base/date_value.h"
-#include "sky/sky_state.h"
 
 /// The illuminated part of the Moon's disk, by the method of P. Duffett-Smith, Practical Astronomy with Your
 /// Calculator, from the epoch 1980 January 0.0. It stands apart from the series of the phases: every percentage comes
@@ -19,7 +18,13 @@ double fixAngle(double degrees);
 /// The eccentric anomaly in radians of a mean anomaly in degrees, to better than 1e-6; for eccentricities well below 1.
 double keplerEccentricAnomaly(double meanAnomaly, double eccentricity);
 
-/// Leaves `moonAgeDegrees` and `moonIlluminatedFraction` of a moment in universal time in the record.
-void moonIllumination(base::DateValue date, SkyState& state);
+/// The light of the Moon at one moment.
+struct MoonLight {
+    double moonAgeDegrees;          ///< longitude of the Moon less that of the Sun, not folded
+    double moonIlluminatedFraction; ///< 0 at new moon to 1 at full moon
+};
+
+/// The light at a moment in universal time.
+MoonLight moonIllumination(base::DateValue date);
 
 } // namespace velmoriax::sky

@@ -2,7 +2,6 @@
 #include "sky/moon_pictures.h"
 
 #include "base/rounding.h"
-#include "sky/moon_illumination.h"
 
 namespace velmoriax::sky {
 
@@ -38,8 +37,7 @@ base::PictureChoice moonPicture(const platform::Files& files, const std::string&
             edge};
 }
 
-std::string drawDayMoon(const MoonEngine& engine, base::DateValue moment, SkyState& state) {
-    moonIllumination(moment, state);
+std::string drawDayMoon(const MoonEngine& engine, base::DateValue moment) {
     return moonPictureName(engine.moonPhaseAngle(moment), MoonPictureRule::cardOfDay);
 }
 

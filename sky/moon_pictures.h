@@ -4,7 +4,6 @@
 #include "base/picture_choice.h"
 #include "platform/files.h"
 #include "sky/moon_engine.h"
-#include "sky/sky_state.h"
 
 #include <cstdint>
 #include <string>
@@ -33,8 +32,7 @@ bool turnsMoonPicture(std::string_view hemisferio);
 /// A moon picture as the hemisphere sees the Moon: half a turn for the south.
 base::PictureChoice moonPicture(const platform::Files& files, const std::string& name, std::string_view hemisferio);
 
-/// The picture name of a moment in universal time, by the rule of the Card of the Day. Leaves the illumination of the
-/// moment in the record.
-std::string drawDayMoon(const MoonEngine& engine, base::DateValue moment, SkyState& state);
+/// The picture name of a moment in universal time, by the rule of the Card of the Day.
+std::string drawDayMoon(const MoonEngine& engine, base::DateValue moment);
 
 } // namespace velmoriax::sky

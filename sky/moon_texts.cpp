@@ -5,7 +5,6 @@
 #include "base/number_text.h"
 #include "base/percent.h"
 #include "base/rounding.h"
-#include "sky/moon_illumination.h"
 #include "sky/moon_pictures.h"
 
 #include <array>
@@ -96,10 +95,9 @@ MoonSummary moonPhaseText(const MoonEngine& engine, base::DateValue date, std::i
     return {name + ": " + percentText + (fromFull ? " from Full" : " from New"), percentText, h};
 }
 
-MoonDetails refreshMoonDetails(const MoonEngine& engine, base::DateValue moonMoment, bool showPrevious,
-                               const SkyState& state) {
-    // Read before the engine lets events run: one of them may leave the illumination of another moment in the record.
-    const double fraction = state.moonIlluminatedFraction;
+MoonDetails refreshMoonDetails(const MoonEngine& engine, const LitMoment& lit, bool showPrevious) {
+    const base::DateValue moonMoment = lit.moonMoment;
+    const double fraction = lit.light.moonIlluminatedFraction;
     MoonDetails details;
     details.labelDetall = illuminationAndAge(fraction, engine.moonAgeDays(moonMoment));
     details.labelInfo = phaseLines(engine, moonMoment, showPrevious);
@@ -130,10 +128,9 @@ std::string moonDateTip(const MoonEngine& engine, base::DateValue moment, std::i
            (waning ? "% of New" : "% of Full");
 }
 
-DateMoon drawDateMoon(const MoonEngine& engine, base::CivilDate date, SkyState& state) {
+DateMoon drawDateMoon(const MoonEngine& engine, base::CivilDate date) {
     const base::DateValue noon = base::dateValueOf(date, {12, 0, 0});
-    moonIllumination(noon, state);
-    const double fraction = state.moonIlluminatedFraction;
+    const double fraction = moonIllumination(noon).moonIlluminatedFraction;
     const float angle = engine.moonPhaseAngle(noon);
     const std::int16_t h = halfPhaseAngle(angle);
     const std::string_view phase = principalPhase(wholePercentText(fraction), h);
@@ -141,9 +138,8 @@ DateMoon drawDateMoon(const MoonEngine& engine, base::CivilDate date, SkyState& 
             phase.empty() ? moonDateTip(engine, noon, h, fraction) : std::string(phase)};
 }
 
-std::string lunatip(const MoonEngine& engine, base::DateValue moment, SkyState& state) {
-    moonIllumination(moment, state);
-    const double fraction = state.moonIlluminatedFraction;
+std::string lunatip(const MoonEngine& engine, base::DateValue moment) {
+    const double fraction = moonIllumination(moment).moonIlluminatedFraction;
     // A half angle of 90 itself counts as waning here, other than in the windows.
     const bool waning = halfPhaseAngle(engine.moonPhaseAngle(moment)) >= halfAngleOfFull;
     const std::string whole = base::formatWholeOrEmpty(percentCounted(waning, fraction));

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "sky/moon_engine.h"
-#include "sky/sky_state.h"
+#include "sky/moon_illumination.h"
 
 #include <cstdint>
 #include <string>
@@ -33,24 +33,27 @@ struct MoonDetails {
 /// Names the list on view.
 std::string moonListHint(bool showPrevious);
 
-/// Reads the illumination that `moonIllumination` has left in the record for `moonMoment`.
-MoonDetails refreshMoonDetails(const MoonEngine& engine, base::DateValue moonMoment, bool showPrevious,
-                               const SkyState& state);
+/// A moment, and the light of the Moon then.
+struct LitMoment {
+    base::DateValue moonMoment;
+    MoonLight light;
+};
+
+MoonDetails refreshMoonDetails(const MoonEngine& engine, const LitMoment& lit, bool showPrevious);
 
 /// The tip of the moon picture in Another Day between the principal phases.
 std::string moonDateTip(const MoonEngine& engine, base::DateValue moment, std::int16_t h, double fraction);
 
 /// The Moon of a day at noon, for Another Day.
 struct DateMoon {
-    std::string pictureName; ///< empty: the picture that stands is kept
+    std::string pictureName; ///< empty: the picture on show is kept
     std::string tip;
 };
 
-/// Noon of the day is taken as it is, without a conversion to universal time. Leaves its illumination in the record.
-DateMoon drawDateMoon(const MoonEngine& engine, base::CivilDate date, SkyState& state);
+/// Noon of the day is taken as it is, without a conversion to universal time.
+DateMoon drawDateMoon(const MoonEngine& engine, base::CivilDate date);
 
-/// The Moon's line of the tray tip, such as "Moon Phase(illum.): 31.47 % (>)". Leaves the illumination of the moment in
-/// the record.
-std::string lunatip(const MoonEngine& engine, base::DateValue moment, SkyState& state);
+/// The Moon's line of the tray tip, such as "Moon Phase(illum.): 31.47 % (>)".
+std::string lunatip(const MoonEngine& engine, base::DateValue moment);
 
 } // namespace velmoriax::sky

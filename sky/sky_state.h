@@ -16,17 +16,14 @@ struct SignReading {
     std::string alertTip;      ///< the tip of `ImageAlert`
     std::string changeText;    ///< universal time of the change, with its date in Another Day; empty when there is none
     std::string seasonText;    ///< stays as it was outside the months in which a season begins
-    std::string descriptionPath; ///< the text about the sign
 };
 
-/// What the sky's routines leave for their callers.
+/// What the searches for the sign share.
 struct SkyState {
-    double moonAgeDegrees = 0;          ///< longitude of the Moon less that of the Sun, not folded
-    double moonIlluminatedFraction = 0; ///< 0 at new moon to 1 at full moon
-
     std::int16_t currentSignIndex = 0; ///< the sign that a window found last, Aries 0 to Pisces 11
-    std::string signImagePath;         ///< the directory of the sign pictures, once the fixed table was asked
-    std::string signName;              ///< the agent's sign, with " (<=>)" behind it on a day of change
+    std::string
+        signImagePath;     ///< the directory of the sign pictures, set by the fixed table; windows read `picturePath`
+    std::string signoText; ///< the agent's sign, with " (<=>)" behind it on a day of change
 
     SignReading cardOfDaySign;  ///< of `FrmCartaDia`
     SignReading anotherDaySign; ///< of `FrmCalendar`

@@ -9,12 +9,12 @@
 namespace velmoriax::sky {
 
 std::string MoonTip::tipLine(base::DateValue now) {
-    return lunatip(MoonEngine(services_.events), localToUniversal(now, services_.zone), state_);
+    return lunatip(MoonEngine(services_.events), localToUniversal(now, services_.zone));
 }
 
 base::PictureChoice MoonTip::tipPicture(base::DateValue now) {
     const base::DateValue moment = localToUniversal(now, services_.zone);
-    const std::string name = drawDayMoon(MoonEngine(services_.events), moment, state_);
+    const std::string name = drawDayMoon(MoonEngine(services_.events), moment);
     return moonPicture(services_.files, name, services_.options.holders.hemisferio);
 }
 

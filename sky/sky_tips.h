@@ -34,14 +34,13 @@ public:
         const shell::OptionsStore& options;
     };
 
-    MoonTip(const Services& services, SkyState& state) : services_(services), state_(state) {}
+    explicit MoonTip(const Services& services) : services_(services) {}
 
     std::string tipLine(base::DateValue now) override;
     base::PictureChoice tipPicture(base::DateValue now) override;
 
 private:
     Services services_;
-    SkyState& state_;
 };
 
 } // namespace velmoriax::sky

@@ -57,7 +57,6 @@ void showSign(const platform::Files& files, std::int16_t index, std::string_view
     form.picturePath = signPictureDirectory(files) + std::string(entry(signFileNames, index)) + "_sm.gif";
     form.label = entry(signNames, index);
     form.tip = tip;
-    form.descriptionPath = signDescriptionPath(files, index);
 }
 
 std::optional<std::string> changeTextOn(const SignStay& stay, const WindowSearch& search) {
@@ -176,17 +175,17 @@ void signoZod(const SignSources& sources, base::DateValue now, SkyState& state) 
         signoZodSt(now, state);
         return;
     }
-    state.signName = entry(signNames, stay->index);
-    if (limitOn(*stay, base::civilDateOf(now))) state.signName += " (<=>)";
+    state.signoText = entry(signNames, stay->index);
+    if (limitOn(*stay, base::civilDateOf(now))) state.signoText += " (<=>)";
 }
 
 void signoZodSt(base::DateValue date, SkyState& state) {
-    state.signName = entry(signNames, fixedSignOf(base::civilDateOf(date)).index);
+    state.signoText = entry(signNames, fixedSignOf(base::civilDateOf(date)).index);
 }
 
 std::string tipsignzodiac(const SignSources& sources, base::DateValue now, SkyState& state) {
     signoZod(sources, now, state);
-    return "Zodiac Sign: " + state.signName;
+    return "Zodiac Sign: " + state.signoText;
 }
 
 } // namespace agent

@@ -51,10 +51,10 @@ std::string signDescription(const platform::Files& files, std::int16_t index);
 /// The tray tip's own search. It leaves `currentSignIndex` alone.
 namespace agent {
 
-/// Sets `signName` of the record for the present local moment, with " (<=>)" behind it on a day of change.
+/// Sets `signoText` of the record for the present local moment, with " (<=>)" behind it on a day of change.
 void signoZod(const SignSources& sources, base::DateValue now, SkyState& state);
 
-/// Sets `signName` from the fixed calendar.
+/// Sets `signoText` from the fixed calendar.
 void signoZodSt(base::DateValue date, SkyState& state);
 
 /// The sign's line of the tray tip, such as "Zodiac Sign: Scorpio".

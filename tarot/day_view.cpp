@@ -3,6 +3,7 @@
 
 #include "base/date_text.h"
 #include "base/number_text.h"
+#include "base/text_lines.h"
 
 namespace velmoriax::tarot {
 

@@ -2,6 +2,7 @@
 #include "tarot/numeric_text.h"
 
 #include "base/number_text.h"
+#include "base/text_lines.h"
 
 namespace velmoriax::tarot {
 

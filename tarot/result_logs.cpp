@@ -2,6 +2,7 @@
 #include "tarot/result_logs.h"
 
 #include "base/date_text.h"
+#include "base/text_lines.h"
 #include "base/windows1252.h"
 
 #include <vector>
@@ -11,8 +12,6 @@ namespace velmoriax::tarot {
 namespace {
 
 using Lines = std::vector<std::string>;
-
-constexpr std::string_view lineEnd = "\r\n";
 
 const std::string blankLine(25, ' ');
 const std::string doubleRule(25, '=');
@@ -67,7 +66,7 @@ std::string pathOf(const ResultLog& log, const platform::Files& files) {
 
 void append(platform::Files& files, const ResultLog& log, const Lines& lines) {
     std::string bytes;
-    for (const std::string& line : lines) bytes.append(base::toWindows1252(line)).append(lineEnd);
+    for (const std::string& line : lines) bytes.append(base::toWindows1252(line)).append(base::lineEnd);
     files.append(pathOf(log, files), bytes);
 }
 
@@ -102,7 +101,7 @@ void showResults(const ResultLog& log, const platform::Files& files, platform::D
 }
 
 void deleteResults(const ResultLog& log, platform::Files& files, platform::MessageBoxes& boxes) {
-    if (boxes.askYesNo(std::string(log.deleteQuestion))) files.replace(pathOf(log, files), std::string(lineEnd));
+    if (boxes.askYesNo(std::string(log.deleteQuestion))) files.replace(pathOf(log, files), std::string(base::lineEnd));
 }
 
 } // namespace velmoriax::tarot

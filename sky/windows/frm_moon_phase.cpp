@@ -27,8 +27,8 @@ constexpr Qt::WindowFlags floating =
 
 } // namespace
 
-FrmMoonPhase::FrmMoonPhase(shell::WindowContext& context, SkyState& sky) :
-    SecondaryWindow(context, floating), sky_(sky), ui_(std::make_unique<Ui::FrmMoonPhase>()), timer1_(this) {
+FrmMoonPhase::FrmMoonPhase(shell::WindowContext& context) :
+    SecondaryWindow(context, floating), ui_(std::make_unique<Ui::FrmMoonPhase>()), timer1_(this) {
     ui_->setupUi(this);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setMouseTracking(true);
@@ -48,13 +48,13 @@ void FrmMoonPhase::load() {
 }
 
 void FrmMoonPhase::tick() {
-    moonMoment_ = localToUniversal(desktop().clock.now(), desktop().zone);
-    moonIllumination(moonMoment_, sky_);
+    const base::DateValue moonMoment = localToUniversal(desktop().clock.now(), desktop().zone);
+    lit_ = {moonMoment, moonIllumination(moonMoment)};
     refreshMoonDetails();
 }
 
 void FrmMoonPhase::refreshMoonDetails() {
-    const MoonDetails details = sky::refreshMoonDetails(MoonEngine(desktop().events), moonMoment_, showPrevious_, sky_);
+    const MoonDetails details = sky::refreshMoonDetails(MoonEngine(desktop().events), lit_, showPrevious_);
     if (!isLoaded()) return; // events have run inside, the end of this window among them
     ui_->LabelDetall->setText(widgets::qtText(details.labelDetall));
     ui_->LabelInfo->setText(widgets::qtText(details.labelInfo));

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "shell/windows/secondary_window.h"
-#include "sky/sky_state.h"
+#include "sky/moon_texts.h"
 
 #include <QTimer>
 
@@ -23,7 +23,7 @@ class FrmMoonPhase : public shell::SecondaryWindow {
 public:
     static constexpr std::string_view windowName = "FrmMoonPhase";
 
-    FrmMoonPhase(shell::WindowContext& context, SkyState& sky);
+    explicit FrmMoonPhase(shell::WindowContext& context);
     ~FrmMoonPhase() override;
 
     void load() override;
@@ -42,10 +42,9 @@ private:
     void tick();
     void refreshMoonDetails();
 
-    SkyState& sky_;
     std::unique_ptr<Ui::FrmMoonPhase> ui_;
     QTimer timer1_;
-    base::DateValue moonMoment_ = 0; ///< the present in universal time
+    LitMoment lit_{}; ///< the present in universal time, as of the latest tick
     bool showPrevious_ = false;
 };
 

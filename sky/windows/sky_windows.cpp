@@ -6,8 +6,8 @@
 
 namespace velmoriax::sky {
 
-void addWindows(shell::WindowRegistry& windows, shell::WindowContext& context, SkyState& sky) {
-    windows.add<FrmMoonPhase>(context, sky);
+void addWindows(shell::WindowRegistry& windows, shell::WindowContext& context) {
+    windows.add<FrmMoonPhase>(context);
 }
 
 } // namespace velmoriax::sky

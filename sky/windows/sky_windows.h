@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "sky/sky_state.h"
-
 namespace velmoriax::shell {
 class WindowRegistry;
 struct WindowContext;
@@ -11,6 +9,6 @@ struct WindowContext;
 namespace velmoriax::sky {
 
 /// Adds the window of the moon details.
-void addWindows(shell::WindowRegistry& windows, shell::WindowContext& context, SkyState& sky);
+void addWindows(shell::WindowRegistry& windows, shell::WindowContext& context);
 
 } // namespace velmoriax::sky

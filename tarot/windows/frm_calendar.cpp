@@ -90,7 +90,7 @@ void FrmCalendar::showSignOf(base::CivilDate date) {
 }
 
 void FrmCalendar::drawDateMoon(base::CivilDate date) {
-    const sky::DateMoon moon = sky::drawDateMoon(sky::MoonEngine(desktop().events), date, tarot_.sky);
+    const sky::DateMoon moon = sky::drawDateMoon(sky::MoonEngine(desktop().events), date);
     if (!isLoaded()) return; // events have run inside, the end of this window among them
     if (!moon.pictureName.empty())
         ui_->ImgLuna->setPicture(widgets::loadChoice(

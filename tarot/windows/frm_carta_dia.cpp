@@ -150,7 +150,7 @@ void FrmCartaDia::startTimers() {
 
 void FrmCartaDia::drawDayMoon() {
     const base::DateValue moment = sky::localToUniversal(desktop().clock.now(), desktop().zone);
-    const std::string name = sky::drawDayMoon(sky::MoonEngine(desktop().events), moment, tarot_.sky);
+    const std::string name = sky::drawDayMoon(sky::MoonEngine(desktop().events), moment);
     if (!isLoaded()) return;
     ui_->ImgLuna->setPicture(
         widgets::loadChoice(desktop().files, sky::moonPicture(desktop().files, name, options().holders.hemisferio)));

@@ -76,6 +76,7 @@ TEST(WesternText, EveryByteComesBackAndWhatTheCodePageLacksIsMarked) {
     EXPECT_EQ(toWindows1252(fromWindows1252(all)), all);
     EXPECT_EQ(toWindows1252("Mari\xCC\x81"), toWindows1252("Mar\xC3\xAD")) << "decomposed i with acute";
     EXPECT_EQ(toWindows1252("n\xCC\x83"), "\xF1");
+    EXPECT_EQ(toWindows1252("Nya\xCC\x8A"), "Ny\xE5") << "a with the ring above, which is no a";
     EXPECT_EQ(toWindows1252("€"), "\x80");
     EXPECT_EQ(toWindows1252("→😀"), "??");
     EXPECT_EQ(toWindows1252("a\xFF\xC3"), "a??") << "broken UTF-8";

@@ -178,37 +178,31 @@ constexpr DateValue november2026 = 46341.5; ///< 2026-11-15 12:00
 struct MoonTextsTest : testing::Test {
     test::FakeEvents events;
     MoonEngine engine{events};
-    SkyState state;
 
     MoonDetails details(DateValue moment, bool showPrevious = false) {
-        moonIllumination(moment, state);
-        return refreshMoonDetails(engine, moment, showPrevious, state);
+        return refreshMoonDetails(engine, {moment, moonIllumination(moment)}, showPrevious);
     }
 };
 
 TEST(MoonIllumination, GivesTheKnownValues) {
-    SkyState state;
     for (const auto& [date, fraction, degrees] : test::Table<DateValue, double, double>{
              {november2026, 0.31473, 68.2517},
              {38518, 0.49458, 89.3792},
              {36526, 0.27140, -62.7933} /* negative: the two longitudes are folded apart */}) {
-        moonIllumination(date, state);
-        EXPECT_NEAR(state.moonIlluminatedFraction, fraction, 5e-6);
-        EXPECT_NEAR(state.moonAgeDegrees, degrees, 5e-5);
+        const MoonLight light = moonIllumination(date);
+        EXPECT_NEAR(light.moonIlluminatedFraction, fraction, 5e-6);
+        EXPECT_NEAR(light.moonAgeDegrees, degrees, 5e-5);
     }
-    moonIllumination(36531.7597222222, state);
-    EXPECT_NEAR(state.moonIlluminatedFraction, 1.05e-6, 5e-9) << "seconds before a new moon";
+    EXPECT_NEAR(moonIllumination(36531.7597222222).moonIlluminatedFraction, 1.05e-6, 5e-9)
+        << "seconds before a new moon";
 }
 
 // Two models without anything in common but the calendar.
 TEST_F(MoonTextsTest, IlluminationAgreesWithThePhases) {
     for (DateValue date = november2026; date < november2026 + 4000; date += 29.7) {
-        moonIllumination(engine.nextNewMoon(date), state);
-        EXPECT_LT(state.moonIlluminatedFraction, 0.001) << date;
-        moonIllumination(engine.nextFullMoon(date), state);
-        EXPECT_GT(state.moonIlluminatedFraction, 0.999) << date;
-        moonIllumination(engine.nextLastQuarter(date), state);
-        EXPECT_NEAR(state.moonIlluminatedFraction, 0.5, 0.01) << date;
+        EXPECT_LT(moonIllumination(engine.nextNewMoon(date)).moonIlluminatedFraction, 0.001) << date;
+        EXPECT_GT(moonIllumination(engine.nextFullMoon(date)).moonIlluminatedFraction, 0.999) << date;
+        EXPECT_NEAR(moonIllumination(engine.nextLastQuarter(date)).moonIlluminatedFraction, 0.5, 0.01) << date;
     }
 }
 
@@ -243,11 +237,11 @@ TEST_F(MoonTextsTest, WindowDayAndTrayNameTheSameMoment) {
     for (const auto& [date, window, dayTip, trayTip] : rows) {
         const DateValue noon = base::dateValueOf(date, {12, 0, 0});
         EXPECT_EQ(details(noon).labelResum, window);
-        EXPECT_EQ(drawDateMoon(engine, date, state).tip, dayTip);
-        EXPECT_EQ(lunatip(engine, noon, state), trayTip);
+        EXPECT_EQ(drawDateMoon(engine, date).tip, dayTip);
+        EXPECT_EQ(lunatip(engine, noon), trayTip);
     }
-    EXPECT_EQ(drawDateMoon(engine, {2026, 11, 15}, state).pictureName, "moon6.gif");
-    EXPECT_EQ(drawDayMoon(engine, november2026, state), "moon6.gif");
+    EXPECT_EQ(drawDateMoon(engine, {2026, 11, 15}).pictureName, "moon6.gif");
+    EXPECT_EQ(drawDayMoon(engine, november2026), "moon6.gif");
 }
 
 // The half angle decides which way the Moon goes, the fraction what is said: the corners where both part company.
