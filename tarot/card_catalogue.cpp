@@ -88,9 +88,9 @@ std::string majorPictureFile(int card) {
     return std::string(majorCard(card).pictureFile);
 }
 
-std::string majorPictureDir(std::string_view applicationDirectory, std::string_view tipocartas) {
-    const auto* row = std::ranges::find(deckDirectories, tipocartas, &DeckDirectory::deck);
-    return below(applicationDirectory, row == deckDirectories.end() ? std::string_view{} : row->directory);
+std::string majorPictureDir(const Deck& deck) {
+    const auto* row = std::ranges::find(deckDirectories, deck.tipocartas, &DeckDirectory::deck);
+    return below(deck.applicationDirectory, row == deckDirectories.end() ? std::string_view{} : row->directory);
 }
 
 std::string majorTextFile(int card) {

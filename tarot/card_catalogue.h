@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "tarot/deck.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
@@ -17,7 +19,7 @@ inline constexpr int suitCards = 14;
 /// the result line of the Numbers reading says "XIV. The Temperance". Picture and text of card 6 have different stems.
 struct MajorCard {
     std::string_view tipName;
-    std::string_view numbersName;
+    std::string_view numbersCardNames;
     std::string_view pictureFile;
     std::string_view textFile;
 };
@@ -48,7 +50,7 @@ std::string majorPictureFile(int card);
 
 /// Where the pictures of a deck lie: the application directory and, when that takes a subdirectory, the deck's own. An
 /// unknown deck adds none, so that the picture is then missing.
-std::string majorPictureDir(std::string_view applicationDirectory, std::string_view tipocartas);
+std::string majorPictureDir(const Deck& deck);
 
 std::string majorTextFile(int card);
 

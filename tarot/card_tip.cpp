@@ -13,8 +13,7 @@ std::string CardTip::tipLine(base::DateValue now) {
 
 void CardTip::tipcartadia(base::CivilDate today) {
     if (cardDate_ == today) return;
-    const auto reading =
-        sumcartdia(base::shortDateText(today), files_.applicationDirectory(), options_.holders.tipocartas, cards_);
+    const auto reading = sumcartdia(base::shortDateText(today), deckInUse(files_, options_), cards_);
     cardDate_ = today;
     tipCard_ = "Card of Day: " + reading.drawn.tip;
 }

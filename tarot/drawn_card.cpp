@@ -6,28 +6,27 @@
 
 namespace velmoriax::tarot {
 
-DrawnCard drawnMajor(int total, std::string_view applicationDirectory, std::string_view tipocartas, CardState& state) {
+DrawnCard drawnMajor(int total, const Deck& deck, CardState& state) {
     DrawnCard drawn;
     drawn.card = base::toInt16(reducedToMajor(total));
     drawn.pictureFile = majorPictureFile(drawn.card);
-    drawn.picturePath = majorPictureDir(applicationDirectory, tipocartas) + drawn.pictureFile;
+    drawn.cardPath = majorPictureDir(deck) + drawn.pictureFile;
     state.currentCard = drawn.card;
     fillCardTipName(state);
     drawn.tip = state.cardTipNames[static_cast<std::size_t>(drawn.card - 1)];
     return drawn;
 }
 
-DigitReading sumcartdia(std::string_view Fecha, std::string_view applicationDirectory, std::string_view tipocartas,
-                        CardState& state) {
+DigitReading sumcartdia(std::string_view Fecha, const Deck& deck, CardState& state) {
     const std::int16_t sum = base::toInt16(base::digitSum(Fecha));
-    return {sum, drawnMajor(sum, applicationDirectory, tipocartas, state)};
+    return {sum, drawnMajor(sum, deck, state)};
 }
 
 DrawnCard drawnMinor(int total, Suit suit, std::string_view applicationDirectory) {
     DrawnCard drawn;
     drawn.card = base::toInt16(reducedToMinor(total));
     drawn.pictureFile = minorPictureFile(suit, drawn.card);
-    drawn.picturePath = minorPictureDir(applicationDirectory) + drawn.pictureFile;
+    drawn.cardPath = minorPictureDir(applicationDirectory) + drawn.pictureFile;
     return drawn;
 }
 

@@ -12,14 +12,14 @@ enum class Orientation { notThrown, normal, inverted };
 struct DrawnCard {
     std::int16_t card = 0;   ///< 1 to 22 of the major arcana, 1 to 14 of a suit
     std::string pictureFile; ///< as the logs name the card
-    std::string picturePath;
+    std::string cardPath;
     std::string tip; ///< the `cardTipNames` entry of a major card; minor cards have no names
     Orientation orientation = Orientation::notThrown;
 };
 
-/// Reduces a total to a major card, leaves it in `currentCard` and fills its name. `tipocartas` is the deck in use.
+/// Reduces a total to a major card, leaves it in `currentCard` and fills its name.
 /// Throws RunTimeError Subscript out of range for a total below 1.
-DrawnCard drawnMajor(int total, std::string_view applicationDirectory, std::string_view tipocartas, CardState& state);
+DrawnCard drawnMajor(int total, const Deck& deck, CardState& state);
 
 /// A card with the sum of digits that it comes from.
 struct DigitReading {
@@ -29,8 +29,7 @@ struct DigitReading {
 
 /// The card of a date: the sum of the digits of its text, reduced as above. The order of the fields, separators and
 /// leading zeros do not count. Throws as above for a text without a digit above 0.
-DigitReading sumcartdia(std::string_view Fecha, std::string_view applicationDirectory, std::string_view tipocartas,
-                        CardState& state);
+DigitReading sumcartdia(std::string_view Fecha, const Deck& deck, CardState& state);
 
 /// Reduces a total to a card of a suit. Throws as above.
 DrawnCard drawnMinor(int total, Suit suit, std::string_view applicationDirectory);

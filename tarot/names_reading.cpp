@@ -10,8 +10,7 @@ std::optional<int> sumaNombres(std::string_view nombre) {
     return letterSum(nombre);
 }
 
-NamesReading readNames(const NameFields& fields, std::string_view applicationDirectory, std::string_view tipocartas,
-                       CardState& state) {
+NamesReading readNames(const NameFields& fields, const Deck& deck, CardState& state) {
     NamesReading reading;
     int total = 0;
     for (const std::string& field : fields) {
@@ -20,7 +19,7 @@ NamesReading readNames(const NameFields& fields, std::string_view applicationDir
         if (!fieldValue) ++reading.refusedFields;
     }
     if (total == 0) return reading;
-    reading.drawn = drawnMajor(total, applicationDirectory, tipocartas, state);
+    reading.drawn = drawnMajor(total, deck, state);
     reading.record = {fields, reading.drawn->pictureFile};
     return reading;
 }

@@ -23,7 +23,6 @@ struct NamesReading {
 std::optional<int> sumaNombres(std::string_view nombre);
 
 /// The reading of the four fields. Which name stands in which field does not count.
-NamesReading readNames(const NameFields& fields, std::string_view applicationDirectory, std::string_view tipocartas,
-                       CardState& state);
+NamesReading readNames(const NameFields& fields, const Deck& deck, CardState& state);
 
 } // namespace velmoriax::tarot

@@ -18,16 +18,15 @@ namespace {
 } // namespace
 
 std::string resultLineOf(const MajorCard& card) {
-    return "It has corresponded... " + std::string(card.numbersName);
+    return "It has corresponded... " + std::string(card.numbersCardNames);
 }
 
-std::optional<NumbersReading> SumarUnidades(std::string_view numero, std::string_view applicationDirectory,
-                                            std::string_view tipocartas, CardState& state) {
+std::optional<NumbersReading> SumarUnidades(std::string_view numero, const Deck& deck, CardState& state) {
     if (!isNumericText(numero)) return std::nullopt;
     NumbersReading reading;
     reading.digitSum = base::toInt16(base::digitSum(numero));
     if (reading.digitSum == 0) refuseWithoutCard(numero);
-    reading.drawn = drawnMajor(reading.digitSum, applicationDirectory, tipocartas, state);
+    reading.drawn = drawnMajor(reading.digitSum, deck, state);
     reading.resultLine = resultLineOf(majorCard(reading.drawn.card));
     reading.record = {std::string(numero), reading.drawn.pictureFile};
     return reading;

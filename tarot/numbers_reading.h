@@ -10,7 +10,7 @@ namespace velmoriax::tarot {
 
 inline constexpr std::string_view numbersWarning = "You must enter only numbers";
 
-/// "It has corresponded... " and the card by its `numbersName`, which its tip may not share.
+/// "It has corresponded... " and the card by its `numbersCardNames`, which its tip may not share.
 std::string resultLineOf(const MajorCard& card);
 
 struct NumbersReading {
@@ -22,7 +22,6 @@ struct NumbersReading {
 
 /// The reading of a text as it was typed; nothing when it is no number as a whole, and then no card changes.
 /// Throws RunTimeError Subscript out of range for a number without a digit above 0: there is no card 0.
-std::optional<NumbersReading> SumarUnidades(std::string_view numero, std::string_view applicationDirectory,
-                                            std::string_view tipocartas, CardState& state);
+std::optional<NumbersReading> SumarUnidades(std::string_view numero, const Deck& deck, CardState& state);
 
 } // namespace velmoriax::tarot

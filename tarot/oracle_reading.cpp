@@ -14,25 +14,9 @@ namespace {
 
 constexpr std::int16_t invertedThrow = 2;
 
-/// The fields of each suit, in the order of Suit.
-struct SuitFields {
-    std::int16_t OracleState::*sum;
-    std::int16_t OracleState::*card;
-};
-constexpr std::array<SuitFields, 4> suitFields{{
-    {&OracleState::batonSum, &OracleState::batonCard},
-    {&OracleState::cupSum, &OracleState::cupCard},
-    {&OracleState::swordSum, &OracleState::swordCard},
-    {&OracleState::goldSum, &OracleState::goldCard},
-}};
-
-const SuitFields& fieldsOf(Suit suit) {
-    return suitFields[static_cast<std::size_t>(suit)];
-}
-
 int wordsOfAllSuits(const OracleState& state) {
     int sum = 0;
-    for (const SuitFields& fields : suitFields) sum += state.*fields.sum;
+    for (const SuitDraw& draw : state.suits) sum += draw.sum;
     return sum;
 }
 
@@ -70,10 +54,10 @@ std::optional<SuitReading> drawSuitCard(Suit suit, std::string_view question, Or
     state.finalDrawn = false;
     if (state.wordSum == 0) return std::nullopt;
     state.readingStarted = true;
-    state.*fieldsOf(suit).sum = state.wordSum;
+    state.of(suit).sum = state.wordSum;
     state.dateSum = sumdate(state.readingDate);
     DrawnCard drawn = drawnMinor(base::toInt16(state.wordSum + state.dateSum), suit, services.applicationDirectory);
-    state.*fieldsOf(suit).card = drawn.card;
+    state.of(suit).card = drawn.card;
     state.currentCardNumber = drawn.card;
     drawn.orientation = thrown(state, services);
     SuitRecord record{suit, std::string(question), drawn.pictureFile, drawn.orientation};
@@ -93,7 +77,7 @@ std::optional<FinalReading> sumapalos(std::string_view swordsText, base::DateVal
     state.globalCard = base::toInt16(words + state.dateSum);
     if (words == 0) return std::nullopt;
     DrawnCard drawn =
-        drawnMajor(state.globalCard, services.applicationDirectory, services.options.holders.tipocartas, cards);
+        drawnMajor(state.globalCard, {services.applicationDirectory, services.options.holders.tipocartas}, cards);
     state.globalCard = drawn.card;
     state.currentCardNumber = drawn.card;
     state.finalDrawn = true;
@@ -113,10 +97,7 @@ void resetReading(OracleState& state) {
     state.finalDrawn = false;
     state.dateSum = 0;
     state.wordSum = 0;
-    for (const SuitFields& fields : suitFields) {
-        state.*fields.sum = 0;
-        state.*fields.card = 0;
-    }
+    state.suits = {};
 }
 
 std::string dateButtonCaption(base::CivilDate readingDate) {
@@ -124,11 +105,11 @@ std::string dateButtonCaption(base::CivilDate readingDate) {
 }
 
 bool isDrawn(Suit suit, const OracleState& state) {
-    return state.*fieldsOf(suit).card != 0;
+    return state.of(suit).card != 0;
 }
 
 std::optional<std::string> openSuitText(Suit suit, OracleState& state, std::string_view applicationDirectory) {
-    const std::int16_t card = state.*fieldsOf(suit).card;
+    const std::int16_t card = state.of(suit).card;
     if (card == 0) return std::nullopt;
     state.currentCardNumber = card;
     return minorTextDir(applicationDirectory) + minorTextFile(suit, card);

@@ -12,24 +12,26 @@
 /// card. The words and the date alone make the cards; chance only turns them, and only in a real throw.
 namespace velmoriax::tarot {
 
+/// A suit in the reading.
+struct SuitDraw {
+    std::int16_t sum = 0;  ///< word sum of its question, 0 when not asked: `batonSum`, `cupSum`, `swordSum`, `goldSum`
+    std::int16_t card = 0; ///< 1 to 14, 0 when not drawn: `batonCard`, `cupCard`, `swordCard`, `goldCard`
+};
+
 struct OracleState {
     std::int16_t wordSum = 0; ///< of the latest question
     std::int16_t dateSum = 0;
-    std::int16_t batonSum = 0; ///< word sums of the suits, 0 when not asked
-    std::int16_t cupSum = 0;
-    std::int16_t swordSum = 0;
-    std::int16_t goldSum = 0;
-    std::int16_t batonCard = 0; ///< 1 to 14, 0 when not drawn
-    std::int16_t cupCard = 0;
-    std::int16_t swordCard = 0;
-    std::int16_t goldCard = 0;
+    std::array<SuitDraw, 4> suits{};    ///< in the order of Suit
     std::int16_t globalCard = 0;        ///< 1 to 22, 0 before the final card
-    std::int16_t currentCardNumber = 0; ///< drawn or opened most recently, of any suit or of the major arcana
+    std::int16_t currentCardNumber = 0; ///< drawn or opened most recently, of any suit; the windows need no such index
     std::int16_t cardOrientation = 0;   ///< of the latest throw, shared by the five cards: 1 normal, 2 inverted
     base::CivilDate readingDate;        ///< today until another one is chosen
     bool dateChosen = false;
     bool readingStarted = false; ///< a suit has been drawn: the date is frozen until the reset
     bool finalDrawn = false;
+
+    SuitDraw& of(Suit suit) { return suits[static_cast<std::size_t>(suit)]; }
+    const SuitDraw& of(Suit suit) const { return suits[static_cast<std::size_t>(suit)]; }
 };
 
 /// What a draw takes from outside: the kind of throw and the deck, chance, and where the pictures lie.

@@ -7,7 +7,7 @@
 namespace velmoriax::tarot {
 
 void showCard(widgets::PictureBox& place, const DrawnCard& drawn, const platform::Files& files, int rimLeft) {
-    const QImage picture = widgets::loadPicture(files, drawn.picturePath);
+    const QImage picture = widgets::loadPicture(files, drawn.cardPath);
     const bool inverted = drawn.orientation == Orientation::inverted;
     place.setPicture(inverted ? widgets::turnedHalf(picture, rimLeft) : picture);
     if (!drawn.tip.empty()) place.setTip(widgets::qtText(drawn.tip));

@@ -76,9 +76,8 @@ void FrmCalendar::pick(QDate day) {
 }
 
 void FrmCalendar::sumcartdia(base::CivilDate date) {
-    const DrawnCard drawn = tarot::sumcartdia(base::shortDateText(date), desktop().files.applicationDirectory(),
-                                              options().holders.tipocartas, tarot_.state.cards)
-                                .drawn;
+    const DrawnCard drawn =
+        tarot::sumcartdia(base::shortDateText(date), deckInUse(desktop().files, options()), tarot_.state.cards).drawn;
     dateCard_ = drawn.card;
     showCard(*ui_->Imgfechasel, drawn, desktop().files);
 }

@@ -128,11 +128,9 @@ void FrmCartaDia::showDate() {
 
 void FrmCartaDia::showCardOfToday() {
     const std::string today = base::shortDateText(base::civilDateOf(desktop().clock.now()));
-    const DrawnCard drawn =
-        sumcartdia(today, desktop().files.applicationDirectory(), options().holders.tipocartas, tarot_.state.cards)
-            .drawn;
+    const DrawnCard drawn = sumcartdia(today, deckInUse(desktop().files, options()), tarot_.state.cards).drawn;
     dayCard_ = drawn.card;
-    ui_->ImgCartadia->setPictureFile(desktop().files, drawn.picturePath);
+    ui_->ImgCartadia->setPictureFile(desktop().files, drawn.cardPath);
     ui_->ImgCartadia->setTip(widgets::qtText(drawn.tip));
 }
 

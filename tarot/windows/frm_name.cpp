@@ -59,8 +59,7 @@ NameFields FrmName::typedNames() const {
 }
 
 void FrmName::submit() {
-    const NamesReading reading = readNames(typedNames(), desktop().files.applicationDirectory(),
-                                           options().holders.tipocartas, tarot_.state.cards);
+    const NamesReading reading = readNames(typedNames(), deckInUse(desktop().files, options()), tarot_.state.cards);
     for (int i = 0; i < reading.refusedFields; ++i)
         desktop().boxes.show(platform::BoxIcon::warning, std::string(namesWarning), "Info");
     if (!reading.drawn) return;

@@ -52,8 +52,8 @@ void frmVelmoriax::ownLoad() {
 }
 
 void frmVelmoriax::submit() {
-    const auto reading = SumarUnidades(ui_->text1->text().toStdString(), desktop().files.applicationDirectory(),
-                                       options().holders.tipocartas, tarot_.state.cards);
+    const auto reading =
+        SumarUnidades(ui_->text1->text().toStdString(), deckInUse(desktop().files, options()), tarot_.state.cards);
     if (!reading) {
         desktop().boxes.show(platform::BoxIcon::warning, std::string(numbersWarning), "Info");
         ui_->text1->clear();

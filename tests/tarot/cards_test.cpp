@@ -27,13 +27,13 @@ TEST(CardCatalogue, DatesBecomeCards) {
     };
     CardState state;
     for (const auto& [date, card, name, why] : rows) {
-        const DrawnCard drawn = sumcartdia(date, home, "marsellaone", state).drawn;
+        const DrawnCard drawn = sumcartdia(date, {home, "marsellaone"}, state).drawn;
         EXPECT_EQ(drawn.card, card) << why;
         EXPECT_EQ(drawn.tip, name) << why;
         EXPECT_EQ(state.currentCard, card) << why;
     }
-    EXPECT_EQ(sumcartdia("9/29/1999", home, "marsellaone", state).digitSum, 48) << "the sum itself is not reduced";
-    EXPECT_THROW(sumcartdia("//", home, "marsellaone", state), base::RunTimeError);
+    EXPECT_EQ(sumcartdia("9/29/1999", {home, "marsellaone"}, state).digitSum, 48) << "the sum itself is not reduced";
+    EXPECT_THROW(sumcartdia("//", {home, "marsellaone"}, state), base::RunTimeError);
 }
 
 TEST(CardCatalogue, ANameIsFilledWhenItsCardIsDrawnAndNoOther) {
@@ -49,8 +49,8 @@ TEST(CardCatalogue, ANameIsFilledWhenItsCardIsDrawnAndNoOther) {
 TEST(CardCatalogue, PicturesAndTextsHaveTheirNamesAndFolders) {
     EXPECT_EQ(majorPictureFile(6), "amantes6.jpg");
     EXPECT_EQ(majorTextFile(6), "enamorados6.txt") << "the sixth card has two stems";
-    EXPECT_EQ(majorPictureDir(home, "oldones") + majorPictureFile(9), home + "\\imagenes3\\ermitaño9.jpg");
-    EXPECT_EQ(majorPictureDir(home, "Oldones"), home) << "decks are compared exactly";
+    EXPECT_EQ(majorPictureDir({home, "oldones"}) + majorPictureFile(9), home + "\\imagenes3\\ermitaño9.jpg");
+    EXPECT_EQ(majorPictureDir({home, "Oldones"}), home) << "decks are compared exactly";
     EXPECT_EQ(minorTextDir(home), home + "\\mtextos\\");
     EXPECT_EQ(minorPictureFile(Suit::batons, 10), "10bastos.jpg");
     EXPECT_EQ(minorPictureFile(Suit::golds, 12), "caballo-oros.jpg");
@@ -61,7 +61,8 @@ TEST(CardCatalogue, PicturesAndTextsHaveTheirNamesAndFolders) {
 }
 
 TEST(CardCatalogue, ARootTakesNoSubdirectoryExceptForTheBacks) {
-    for (const char* deck : {"marsellaone", "marsellaclass", "oldones"}) EXPECT_EQ(majorPictureDir("/ab", deck), "/ab");
+    for (const char* deck : {"marsellaone", "marsellaclass", "oldones"})
+        EXPECT_EQ(majorPictureDir({"/ab", deck}), "/ab");
     EXPECT_EQ(minorPictureDir("/ab"), "/ab");
     EXPECT_EQ(majorTextDir("/ab"), "/ab");
     EXPECT_EQ(suitBackPath("/ab"), "/ab\\amenores\\reverso.jpg");

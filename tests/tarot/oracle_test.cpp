@@ -58,10 +58,10 @@ TEST_F(Oracle, ThrowsForRealUnlessTheOptionIsEmptyOrObjective) {
 }
 
 TEST_F(Oracle, DrawsTheSuitsCardFromWordsAndDate) {
-    EXPECT_EQ(draw(Suit::batons, "Hola mundo")->drawn.picturePath, files.directory + "\\amenores\\5bastos.jpg");
+    EXPECT_EQ(draw(Suit::batons, "Hola mundo")->drawn.cardPath, files.directory + "\\amenores\\5bastos.jpg");
     EXPECT_EQ(state.currentCardNumber, 5);
     services.applicationDirectory = "C:\\";
-    EXPECT_EQ(draw(Suit::batons, "Hola mundo")->drawn.picturePath, "C:\\5bastos.jpg") << "a root has no folders";
+    EXPECT_EQ(draw(Suit::batons, "Hola mundo")->drawn.cardPath, "C:\\5bastos.jpg") << "a root has no folders";
 
     state.readingDate = {2020, 1, 9}; // digits 14: the words alone decide
     for (const auto& [words, picture] : test::Table<int, const char*>{
@@ -75,8 +75,8 @@ TEST_F(Oracle, AQuestionThatCountsNothingOnlyClosesTheFinalCard) {
     EXPECT_FALSE(draw(Suit::cups, " ?! "));
     EXPECT_FALSE(state.finalDrawn);
     EXPECT_TRUE(state.readingStarted);
-    EXPECT_EQ(state.cupSum, 1);
-    EXPECT_EQ(state.cupCard, 5);
+    EXPECT_EQ(state.of(Suit::cups).sum, 1);
+    EXPECT_EQ(state.of(Suit::cups).card, 5);
 }
 
 TEST_F(Oracle, AddsWordSumsAndDateToTheFinalCard) {
@@ -89,7 +89,7 @@ TEST_F(Oracle, AddsWordSumsAndDateToTheFinalCard) {
         resetReading(state);
         for (std::size_t i = 0; i < 4; ++i) draw(static_cast<Suit>(i), words[i] ? textWorth(words[i]) : "");
         const auto reading = drawFinal();
-        EXPECT_EQ(reading->drawn.picturePath, files.directory + "\\imagenes\\" + picture) << why;
+        EXPECT_EQ(reading->drawn.cardPath, files.directory + "\\imagenes\\" + picture) << why;
         EXPECT_EQ(reading->drawn.tip, majorCard(state.globalCard).tipName);
         EXPECT_EQ(cards.currentCard, state.currentCardNumber);
     }
@@ -108,7 +108,7 @@ TEST_F(Oracle, TurnsCardsByChanceInARealThrowAlone) {
     for (const auto expected :
          {Orientation::normal, Orientation::normal, Orientation::inverted, Orientation::inverted}) {
         EXPECT_EQ(draw(Suit::cups, "a")->drawn.orientation, expected);
-        EXPECT_EQ(state.cupCard, 5) << "chance does not choose the card";
+        EXPECT_EQ(state.of(Suit::cups).card, 5) << "chance does not choose the card";
     }
     EXPECT_EQ(random.seeds, 4);
     random.numbers = {0.5F};

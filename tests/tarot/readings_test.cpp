@@ -11,7 +11,7 @@ const std::string home = "/home/ann/velmoriax";
 
 NamesReading read(const NameFields& fields) {
     CardState state;
-    return readNames(fields, home, "marsellaone", state);
+    return readNames(fields, {home, "marsellaone"}, state);
 }
 
 TEST(NumericText, TakesANumberAsAWhole) {
@@ -33,7 +33,7 @@ TEST(SumarUnidades, ReducesTheDigitsAndNamesTheCardTwice) {
     };
     for (const auto& [text, sum, card, name, tip, why] : rows) {
         CardState state;
-        const auto reading = SumarUnidades(text, home, "oldones", state);
+        const auto reading = SumarUnidades(text, {home, "oldones"}, state);
         ASSERT_TRUE(reading) << text;
         EXPECT_EQ(reading->digitSum, sum) << why;
         EXPECT_EQ(reading->drawn.card, card) << why;
@@ -46,8 +46,8 @@ TEST(SumarUnidades, ReducesTheDigitsAndNamesTheCardTwice) {
 TEST(SumarUnidades, LooksForThePictureInTheDeckAndLogsItsFile) {
     test::FakeFiles files;
     CardState state;
-    const auto reading = SumarUnidades(" 1978", home, "marsellaclass", state);
-    EXPECT_EQ(reading->drawn.picturePath, home + "\\imagenes2\\emperatriz3.jpg");
+    const auto reading = SumarUnidades(" 1978", {home, "marsellaclass"}, state);
+    EXPECT_EQ(reading->drawn.cardPath, home + "\\imagenes2\\emperatriz3.jpg");
     EXPECT_EQ(reading->drawn.orientation, Orientation::notThrown);
     appendRecord(files, reading->record);
     EXPECT_EQ(files.at("\\logs\\resNumbers.log"), "                         \r\n"
@@ -59,7 +59,7 @@ TEST(SumarUnidades, LooksForThePictureInTheDeckAndLogsItsFile) {
 TEST(SumarUnidades, ANumberWithoutADigitAbove0EndsTheProgramInPlainWords) {
     for (const char* zero : {"0", "000", "-0.0"}) {
         CardState state;
-        const auto error = test::errorOf([&] { SumarUnidades(zero, home, "marsellaone", state); });
+        const auto error = test::errorOf([&] { SumarUnidades(zero, {home, "marsellaone"}, state); });
         ASSERT_TRUE(error) << zero;
         EXPECT_EQ(error->code(), base::RunTimeError::Code::subscriptOutOfRange);
         EXPECT_NE(error->detail().find(zero), std::string::npos) << error->detail();
@@ -89,7 +89,7 @@ TEST(ReadNames, AddsTheFieldsToACard) {
 TEST(ReadNames, LogsTheFieldsAsTypedInTheCodePage) {
     test::FakeFiles files;
     const NamesReading reading = read({" Íñigo2", "", "Núñez", "漢😀"});
-    EXPECT_EQ(reading.drawn->picturePath, home + "\\imagenes\\carro7.jpg");
+    EXPECT_EQ(reading.drawn->cardPath, home + "\\imagenes\\carro7.jpg");
     EXPECT_EQ(reading.drawn->tip, "VII. The Chariot");
     appendRecord(files, reading.record);
     EXPECT_EQ(files.at("\\logs\\resNames.log"), "                         \r\n"
