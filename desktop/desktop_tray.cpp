@@ -20,7 +20,7 @@ constexpr int balloonMs = 60000;         ///< the pointer takes the balloon away
 
 } // namespace
 
-DesktopTray::DesktopTray(QIcon icon, QObject* parent) : QObject(parent), picture_(std::move(icon)) {
+DesktopTray::DesktopTray(QIcon icon, QObject* parent) : Tray(parent), picture_(std::move(icon)) {
     connect(&lookAgain_, &QTimer::timeout, this, &DesktopTray::lookForTray);
     grace_.setSingleShot(true);
     grace_.setInterval(graceMs);
@@ -117,7 +117,7 @@ void DesktopTray::watchTrayWindow() {
 }
 
 bool DesktopTray::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != trayWindow_) return QObject::eventFilter(watched, event);
+    if (watched != trayWindow_) return Tray::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::Enter:
     case QEvent::MouseMove:

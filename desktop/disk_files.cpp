@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/disk_files.h"
 
+#include "desktop/xdg_folders.h"
+
 #include "platform/program_paths.h"
 
 #include <cerrno>
@@ -136,13 +138,6 @@ platform::Files::Content readFile(const fs::path& path) {
     return {Status::read, std::move(*bytes)};
 }
 
-fs::path userDataHome() {
-    const char* dataHome = std::getenv("XDG_DATA_HOME");
-    if (dataHome && fs::path(dataHome).is_absolute()) return dataHome;
-    const char* home = std::getenv("HOME");
-    return fs::path(home && *home ? home : "/") / ".local" / "share";
-}
-
 } // namespace
 
 ProgramFolders programFolders(const fs::path& executable) {
@@ -152,7 +147,7 @@ ProgramFolders programFolders(const fs::path& executable) {
     if (fs::is_directory(own / "imagenes", error)) return {own, own};
     // The executable is <prefix>/lib/velmoriax/Velmoriax, the supplied data <prefix>/share/velmoriax.
     const fs::path shared = own.parent_path().parent_path() / "share" / "velmoriax";
-    return {userDataHome() / "velmoriax", shared};
+    return {dataHome() / "velmoriax", shared};
 }
 
 DiskFiles::DiskFiles(ProgramFolders folders) : folders_(std::move(folders)) {}

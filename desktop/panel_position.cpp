@@ -1,40 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/panel_position.h"
 
-#include "desktop/desktop_tray.h"
+#include "desktop/panel_choice.h"
+#include "desktop/tray.h"
+#include "desktop/x11.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <algorithm>
-#include <array>
-#include <cstdlib>
-#include <iterator>
-#include <memory>
-#include <string>
-#include <tuple>
 #include <vector>
-#include <xcb/xcb.h>
 
 namespace velmoriax::desktop {
 
 namespace {
-
-using Edge = platform::TaskBarPosition::Edge;
-
-template<typename Reply>
-using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
-
-::xcb_connection_t* x11Connection() {
-    auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 ? x11->connection() : nullptr;
-}
-
-::xcb_atom_t atomOf(::xcb_connection_t* connection, const std::string& name) {
-    const auto cookie = ::xcb_intern_atom(connection, 1, static_cast<std::uint16_t>(name.size()), name.data());
-    const Owned<::xcb_intern_atom_reply_t> reply(::xcb_intern_atom_reply(connection, cookie, nullptr), &std::free);
-    return reply ? reply->atom : ::xcb_atom_t{XCB_ATOM_NONE};
-}
 
 using Property = std::vector<std::uint32_t>;
 
@@ -42,7 +20,7 @@ using Property = std::vector<std::uint32_t>;
 Property propertyOf(::xcb_connection_t* connection, ::xcb_window_t window, ::xcb_atom_t name) {
     constexpr std::uint32_t longest = 1024;
     const auto cookie = ::xcb_get_property(connection, 0, window, name, XCB_ATOM_ANY, 0, longest);
-    const Owned<::xcb_get_property_reply_t> reply(::xcb_get_property_reply(connection, cookie, nullptr), &std::free);
+    const XcbReply<::xcb_get_property_reply_t> reply(::xcb_get_property_reply(connection, cookie, nullptr), &std::free);
     if (!reply || reply->format != 32) return {};
     const auto* first = static_cast<const std::uint32_t*>(::xcb_get_property_value(reply.get()));
     return {first, first + reply->value_len};
@@ -52,9 +30,9 @@ Property propertyOf(::xcb_connection_t* connection, ::xcb_window_t window, ::xcb
 std::vector<QRect> reservedBands(const QSize& desktop) {
     ::xcb_connection_t* connection = x11Connection();
     const ::xcb_window_t root = ::xcb_setup_roots_iterator(::xcb_get_setup(connection)).data->root;
-    const ::xcb_atom_t strut = atomOf(connection, "_NET_WM_STRUT_PARTIAL");
+    const ::xcb_atom_t strut = x11Atom(connection, "_NET_WM_STRUT_PARTIAL");
     std::vector<QRect> bands;
-    for (const ::xcb_window_t window : propertyOf(connection, root, atomOf(connection, "_NET_CLIENT_LIST"))) {
+    for (const ::xcb_window_t window : propertyOf(connection, root, x11Atom(connection, "_NET_CLIENT_LIST"))) {
         const Property p = propertyOf(connection, window, strut);
         if (p.size() < 12) continue;
         const std::vector<int> n(p.begin(), p.end());
@@ -79,48 +57,13 @@ QSize nativeDesktopSize() {
     return QSize(all.right() + 1, all.bottom() + 1);
 }
 
-/// Cuts a band off the edge of the area that it runs along.
-QRect without(QRect area, const QRect& band) {
-    const QRect cut = area & band;
-    if (cut.isEmpty()) return area;
-    if (cut.width() >= cut.height()) {
-        if (cut.top() == area.top())
-            area.setTop(cut.bottom() + 1);
-        else
-            area.setBottom(cut.top() - 1);
-    } else if (cut.left() == area.left()) {
-        area.setLeft(cut.right() + 1);
-    } else {
-        area.setRight(cut.left() - 1);
-    }
-    return area;
-}
-
 QRect workAreaByPanels(const QScreen& screen) {
     QRect area = nativeGeometry(screen);
-    for (const QRect& band : reservedBands(nativeDesktopSize())) area = without(area, band);
+    for (const QRect& band : reservedBands(nativeDesktopSize())) area = withoutBand(area, band);
     const QRect native = nativeGeometry(screen);
     const double ratio = screen.devicePixelRatio();
     return {native.topLeft() + (QPointF(area.topLeft() - native.topLeft()) / ratio).toPoint(),
             (QSizeF(area.size()) / ratio).toSize()};
-}
-
-struct Panel {
-    Edge edge;
-    QRect place;
-    int thickness() const { return std::min(place.width(), place.height()); }
-};
-
-std::vector<Panel> panelsAround(const QRect& screen, const QRect& work) {
-    const std::array<Panel, 4> bands{{
-        {Edge::bottomEdge, QRect(QPoint(screen.left(), work.bottom() + 1), screen.bottomRight())},
-        {Edge::topEdge, QRect(screen.topLeft(), QPoint(screen.right(), work.top() - 1))},
-        {Edge::leftEdge, QRect(screen.topLeft(), QPoint(work.left() - 1, screen.bottom()))},
-        {Edge::rightEdge, QRect(QPoint(work.right() + 1, screen.top()), screen.bottomRight())},
-    }};
-    std::vector<Panel> panels;
-    std::ranges::copy_if(bands, std::back_inserter(panels), [](const Panel& band) { return !band.place.isEmpty(); });
-    return panels;
 }
 
 } // namespace
@@ -134,16 +77,7 @@ QRect workAreaOf(const QScreen& screen) {
 std::optional<platform::TaskBarPosition> PanelPosition::position() const {
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen) return std::nullopt;
-    const std::vector<Panel> panels = panelsAround(screen->geometry(), workAreaOf(*screen));
-    if (panels.empty()) return std::nullopt;
-    const QPoint icon = tray_.geometry().center();
-    const auto rank = [&](const Panel& panel) {
-        const bool holdsIcon = !tray_.geometry().isEmpty() && panel.place.contains(icon);
-        return std::tuple(holdsIcon, panel.edge == Edge::bottomEdge, panel.thickness());
-    };
-    const Panel& panel = *std::ranges::max_element(panels, {}, rank);
-    const QRect& place = panel.place;
-    return platform::TaskBarPosition{place.left(), place.top(), place.right() + 1, place.bottom() + 1, panel.edge};
+    return panelOf(screen->geometry(), workAreaOf(*screen), tray_.geometry());
 }
 
 } // namespace velmoriax::desktop

@@ -9,7 +9,7 @@ class QScreen;
 
 namespace velmoriax::desktop {
 
-class DesktopTray;
+class Tray;
 
 /// What panels leave of a screen, in logical pixels. On a desktop of several screens the window manager gives one area
 /// for all of them together, which says nothing of the single screen: there the panels are asked themselves.
@@ -19,11 +19,11 @@ QRect workAreaOf(const QScreen& screen);
 /// not told, the one at the bottom, then the thickest.
 class PanelPosition : public platform::TaskBar {
 public:
-    explicit PanelPosition(const DesktopTray& tray) : tray_(tray) {}
+    explicit PanelPosition(const Tray& tray) : tray_(tray) {}
     std::optional<platform::TaskBarPosition> position() const override;
 
 private:
-    const DesktopTray& tray_;
+    const Tray& tray_;
 };
 
 } // namespace velmoriax::desktop

@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/tray_probe.h"
 
+#include "desktop/x11.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QFileInfo>
-#include <QGuiApplication>
 
 #include <cstdlib>
-#include <memory>
-#include <string>
 #include <unistd.h>
-#include <xcb/xcb.h>
 
 namespace velmoriax::desktop {
 
@@ -32,21 +30,13 @@ bool itemHostIsThere() {
     return answer.arguments().constFirst().value<QDBusVariant>().variant().toBool();
 }
 
-template<typename Reply>
-using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
-
 bool x11TrayIsThere() {
-    auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    // The platform that draws to nowhere has the interface as well, without a connection behind it.
-    ::xcb_connection_t* connection = x11 ? x11->connection() : nullptr;
-    if (!connection) return false;
-    const std::string name = "_NET_SYSTEM_TRAY_S0";
-    const auto atomCookie = ::xcb_intern_atom(connection, 1, static_cast<std::uint16_t>(name.size()), name.data());
-    const Owned<::xcb_intern_atom_reply_t> atom(::xcb_intern_atom_reply(connection, atomCookie, nullptr), &std::free);
-    if (!atom || atom->atom == XCB_ATOM_NONE) return false;
-    const auto ownerCookie = ::xcb_get_selection_owner(connection, atom->atom);
-    const Owned<::xcb_get_selection_owner_reply_t> owner(
-        ::xcb_get_selection_owner_reply(connection, ownerCookie, nullptr), &std::free);
+    ::xcb_connection_t* connection = x11Connection();
+    const ::xcb_atom_t tray = connection ? x11Atom(connection, "_NET_SYSTEM_TRAY_S0") : ::xcb_atom_t{XCB_ATOM_NONE};
+    if (tray == XCB_ATOM_NONE) return false;
+    const auto cookie = ::xcb_get_selection_owner(connection, tray);
+    const XcbReply<::xcb_get_selection_owner_reply_t> owner(
+        ::xcb_get_selection_owner_reply(connection, cookie, nullptr), &std::free);
     return owner && owner->owner != XCB_WINDOW_NONE;
 }
 

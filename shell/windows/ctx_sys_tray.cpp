@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/ctx_sys_tray.h"
 
-#include "desktop/desktop_tray.h"
+#include "desktop/tray.h"
 #include "shell/task_bar_metrics.h"
 #include "shell/tray_tip.h"
 #include "shell/windows/window_registry.h"
@@ -27,13 +27,13 @@ QString text(std::string_view utf8, qsizetype longest) {
 } // namespace
 
 CtxSysTray::CtxSysTray(WindowContext& context, QMenu& popup) : context_(context), popup_(popup) {
-    using desktop::DesktopTray;
-    DesktopTray& tray = context.desktop.tray;
-    connect(&tray, &DesktopTray::pointerMoved, this, &CtxSysTray::pointerMoved);
-    connect(&tray, &DesktopTray::leftClicked, this, [this] { clicked(leftButton, false); });
-    connect(&tray, &DesktopTray::leftDoubleClicked, this, [this] { clicked(leftButton, true); });
-    connect(&tray, &DesktopTray::rightClicked, this, [this] { clicked(rightButton, false); });
-    connect(&tray, &DesktopTray::trayTaken, this, &CtxSysTray::followTipText);
+    using desktop::Tray;
+    Tray& tray = context.desktop.tray;
+    connect(&tray, &Tray::pointerMoved, this, &CtxSysTray::pointerMoved);
+    connect(&tray, &Tray::leftClicked, this, [this] { clicked(leftButton, false); });
+    connect(&tray, &Tray::leftDoubleClicked, this, [this] { clicked(leftButton, true); });
+    connect(&tray, &Tray::rightClicked, this, [this] { clicked(rightButton, false); });
+    connect(&tray, &Tray::trayTaken, this, &CtxSysTray::followTipText);
     TimerTooltip_.setObjectName(QStringLiteral("TimerTooltip"));
     TimerTooltip_.setInterval(TipWatch::tickMs);
     connect(&TimerTooltip_, &QTimer::timeout, this, &CtxSysTray::tickTooltip);
@@ -163,7 +163,7 @@ void CtxSysTray::tooltipsSwitched() {
 
 /// Starts or ends the minutes of the item's text.
 void CtxSysTray::followTipText() {
-    const desktop::DesktopTray& tray = context_.desktop.tray;
+    const desktop::Tray& tray = context_.desktop.tray;
     const bool panelShowsText = added_ && tray.decided() && !tray.reportsPointer() && !tooltipsOff();
     if (!panelShowsText) return textTimer_.stop();
     if (textTimer_.isActive()) return;

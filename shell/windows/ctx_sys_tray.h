@@ -70,8 +70,8 @@ private:
     QMenu& popup_;
     bool added_ = false;
     TipWatch watch_;
-    QTimer TimerTooltip_;
-    QTimer textTimer_;
+    QTimer TimerTooltip_{this};
+    QTimer textTimer_{this};
 };
 
 } // namespace velmoriax::shell

@@ -16,7 +16,7 @@
 #include <string>
 
 namespace velmoriax::desktop {
-class DesktopTray;
+class Tray;
 }
 
 namespace velmoriax::shell {
@@ -33,7 +33,7 @@ struct DesktopServices {
     platform::Autostart& autostart;
     platform::PendingEvents& events;
     platform::RandomSource& random;
-    desktop::DesktopTray& tray;
+    desktop::Tray& tray;
     const platform::TaskBar& taskBar;
     std::string pluginFolder; ///< where the libraries are that are loaded when they are needed
 };

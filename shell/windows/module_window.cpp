@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/module_window.h"
 
-#include "desktop/desktop_tray.h"
+#include "desktop/tray.h"
 #include "shell/tray_tip.h"
 #include "shell/windows/module_switcher.h"
 #include "shell/windows/window_registry.h"
@@ -42,7 +42,7 @@ ModuleWindow::ModuleWindow(WindowContext& context, const ModuleInfo& module) :
     setObjectName(widgets::qtText(module.windowName));
     connect(&tray_, &CtxSysTray::MouseUp, this, &ModuleWindow::onTrayButtonUp);
     connect(&tray_, &CtxSysTray::DblClick, this, &ModuleWindow::onTrayDoubleClick);
-    connect(&desktop().tray, &desktop::DesktopTray::trayLost, this, &ModuleWindow::onTrayLost);
+    connect(&desktop().tray, &desktop::Tray::trayLost, this, &ModuleWindow::onTrayLost);
 }
 
 ModuleWindow* ModuleWindow::loadedIn(const WindowRegistry& windows) {
@@ -82,7 +82,7 @@ void ModuleWindow::decideShowing() {
     if (tray.decided())
         QTimer::singleShot(0, this, showIfUnreachable);
     else
-        connect(&tray, &desktop::DesktopTray::waitEnded, this, showIfUnreachable);
+        connect(&tray, &desktop::Tray::waitEnded, this, showIfUnreachable);
 }
 
 bool ModuleWindow::isLoaded() const {

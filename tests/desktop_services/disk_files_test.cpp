@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/boxes.h"
+#include "desktop/xdg_autostart.h"
 #include "platform/program_paths.h"
 #include "support/disk_fixture.h"
 

@@ -40,6 +40,7 @@ struct World : test::ProgramFixture {
         files.at("\\opciones.ini") = "[opciones]\r\nNivel Alertas=Only actual situation\r\n[Posici\xF3n]\r\n"
                                      "Velmoriaxcod_Left=1500\r\nVelmoriaxcod_Top=1500\r\n";
         songs.songs = {files.directory + "\\Are You Lonesome Tonight.mid"};
+        tray.arrive();
         modules.setNotification(&sliding);
         options.readAtStart();
         modules.biorhythmServices.loadAtStart();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "desktop/desktop_tray.h"
 #include "shell/windows/desktop_services.h"
+#include "support/fake_tray.h"
 #include "support/fakes.h"
 #include "support/qt_application.h"
 #include "widgets/picture_box.h"
@@ -105,7 +105,7 @@ protected:
     FakeRandom random;
     FakeNotification notification;
     FakeTaskBar taskBar;
-    desktop::DesktopTray tray{QIcon()};
+    FakeTray tray;
     shell::DesktopServices services = servicesOn(files);
 };
 

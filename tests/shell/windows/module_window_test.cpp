@@ -113,12 +113,6 @@ TEST_F(ModuleWindowTest, ReturnPressesTheButtonThatHasTheFocus) {
     EXPECT_EQ(presses, 1);
 }
 
-TEST_F(ModuleWindowTest, NoIconIsAddedWhileTheProfileWindowsAreOpen) {
-    state.noTrayAdd = true;
-    open(first);
-    EXPECT_FALSE(tray.decided()) << "nobody asked for a tray";
-}
-
 TEST_F(ModuleWindowTest, APlaceOnNoScreenComesBackOntoTheNearest) {
     QWidget window;
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();

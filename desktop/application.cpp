@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/application.h"
+
+#include <utility>
+
+namespace velmoriax::desktop {
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const base::RunTimeError& error) {
+        // While the fatal box is open, timers go on: what they run into no longer counts.
+        if (!std::exchange(stopping_, true)) fatalStop_.stop(error);
+        return false;
+    }
+}
+
+} // namespace velmoriax::desktop
