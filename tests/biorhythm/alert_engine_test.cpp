@@ -104,24 +104,34 @@ TEST(AlertHead, IsBuiltByEachLevelFromEachCombination) {
         }
 }
 
-TEST_F(AlertEngine, TellsEachChangeOfTenYearsOnce) {
-    AlertMessages before;
-    std::size_t changes = 0;
+// A cycle of p days has its troughs at the ages p * (n + 3/4) and its peaks at p * (n + 1/4).
+TEST_F(AlertEngine, ReportsEachTurningPointOfTenYearsOnceAndInItsHour) {
+    const base::DateValue birth = base::dateValueOf({1980, 3, 15}, {7, 45, 0});
+    const test::Table<const char*, double, double> turns{
+        {"Your physical cycle begins an ascending", 23, 0.75},  {"Your physical cycle begins a descending", 23, 0.25},
+        {"Your emotional cycle begins an ascending", 28, 0.75}, {"Your emotional cycle begins a descending", 28, 0.25},
+        {"Your intuitive cycle begins an ascending", 38, 0.75}, {"Your intuitive cycle begins a descending", 38, 0.25},
+    };
+    std::vector<std::vector<double>> ages(turns.size()); // at the first alert of each turning point
+    std::string before;
     for (int i = 0; i < halfHours; ++i) {
-        alertasbio(record, state, "maxi", {halfHour(i), {}}, {notification, sounds});
-        const AlertMessages messages = messagesOf({cyclesAt(state.lived - oneHour), state.cycle, state.cycleNext});
-        const bool changed = messages != before;
-        if (changed) ++changes;
-        if (notification.texts.size() != changes) FAIL() << "half-hour " << i;
-        if (changed) {
-            const std::string& text = notification.texts.back();
-            ASSERT_TRUE(text.ends_with(valueLines(state))) << text;
-            ASSERT_EQ(text.starts_with("Physical: "), messages == AlertMessages{}) << text;
-            ASSERT_EQ(text.find("\r\n\r\n"), std::string::npos) << text;
+        run("maxi", halfHour(i));
+        const std::string text = notification.texts.empty() ? std::string() : notification.texts.back();
+        for (std::size_t turn = 0; turn < turns.size(); ++turn) {
+            const char* message = std::get<0>(turns[turn]);
+            const bool isNew = text.find(message) != text.npos && before.find(message) == before.npos;
+            if (isNew) ages[turn].push_back(halfHour(i) - birth);
         }
-        before = messages;
+        before = text;
     }
-    EXPECT_GT(changes, 2500U);
+    for (std::size_t turn = 0; turn < turns.size(); ++turn) {
+        const auto& [message, period, phase] = turns[turn];
+        EXPECT_NEAR(static_cast<double>(ages[turn].size()), halfHours / 48.0 / period, 1) << message;
+        for (const double age : ages[turn]) {
+            const double hoursOff = (age / period - phase - std::round(age / period - phase)) * period * 24;
+            ASSERT_LE(std::abs(hoursOff), 1.6) << message << " at " << age << " days";
+        }
+    }
 }
 
 TEST_F(AlertEngine, OpensAtStartByHandAndOnANewKeyAlone) {

@@ -169,6 +169,9 @@ TEST_F(SoundOnDisk, EndsCleanlyWhileASongIsLoaded) {
         mixer.play(device);
         std::this_thread::sleep_for(pause);
     }
+    const auto written = length();
+    std::this_thread::sleep_for(200ms);
+    EXPECT_EQ(length(), written) << "nothing plays on behind the mixer's back";
 }
 
 } // namespace

@@ -53,7 +53,7 @@ void numbers(std::string_view input) {
     law(base::digitSum(input) <= 9 * static_cast<int>(input.size()), "no character counts more than 9");
 }
 
-void western(std::string_view input) {
+void windows1252(std::string_view input) {
     const std::string text = base::fromWindows1252(input);
     law(base::toWindows1252(text) == input, "every byte of a file comes through memory");
     law(characters(text) == input.size(), "a byte is a character");

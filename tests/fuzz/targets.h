@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ostream>
 #include <stdexcept>
 #include <string_view>
 
@@ -31,7 +32,7 @@ inline std::string_view takePart(std::string_view& input) {
 // base/
 void dates(std::string_view input);
 void numbers(std::string_view input);
-void western(std::string_view input);
+void windows1252(std::string_view input);
 
 // shell/
 void profileText(std::string_view input);
@@ -51,10 +52,15 @@ struct Target {
     void (*run)(std::string_view input);
 };
 
+/// The name of a target in the names of tests.
+inline void PrintTo(const Target& target, std::ostream* out) {
+    *out << target.name;
+}
+
 inline constexpr std::array<Target, 10> targets{{
     {"dates", dates},
     {"numbers", numbers},
-    {"western", western},
+    {"windows1252", windows1252},
     {"profile_text", profileText},
     {"options", options},
     {"position", position},

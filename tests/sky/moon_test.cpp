@@ -74,9 +74,10 @@ TEST_F(MoonEngineTest, GivesTheKnownValues) {
     EXPECT_LT(engine.moonAgeDays(justBefore), 0);
 }
 
-// Published instants in universal time, to the minute. The engine shows the series' own time scale, a minute ahead of
-// universal time in these decades: two minutes leave room for that, the minute's rounding and the series. In the last
-// row a leading argument lies in the last half degree of its turn, and its fold takes nine minutes off.
+// Instants in universal time, to the minute, as F. Espenak publishes them (Phases of the Moon, NASA Goddard Space
+// Flight Center); the first is also the worked example of Meeus. The engine shows the series' own time scale, a minute
+// ahead of universal time in these decades: two minutes leave room for that, the minute's rounding and the series. In
+// the last row a leading argument lies in the last half degree of its turn, and its fold takes nine minutes off.
 TEST_F(MoonEngineTest, AgreesWithAlmanacsAsFarAsItsFoldsAllow) {
     constexpr double minute = 1.0 / 1440;
     const test::Table<MoonPhase, base::CivilDate, base::CivilTime, double> rows{
