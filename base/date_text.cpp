@@ -59,7 +59,7 @@ std::optional<CivilDate> readDate(std::string_view text) {
     return count == 3 && isValid(date) ? std::optional(date) : std::nullopt;
 }
 
-/// The seconds may be missing: 0 stands for them.
+/// The seconds may be missing and are 0 then.
 std::optional<CivilTime> readTime(std::string_view text) {
     const auto [values, count] = numbersBetween(text, ':');
     const CivilTime time{values[0], values[1], values[2]};
@@ -117,14 +117,14 @@ std::string_view weekdayRuler(int weekday) {
 
 std::optional<DateValue> readDateTime(std::string_view text) {
     const std::string_view whole = trimmed(text);
-    const std::size_t blank = whole.find(' ');
-    if (blank == std::string_view::npos) {
+    const std::size_t space = whole.find(' ');
+    if (space == std::string_view::npos) {
         if (const auto date = readDate(whole)) return dateValueOf(*date);
         if (const auto time = readTime(whole)) return dateValueOf(*time);
         return std::nullopt;
     }
-    const auto date = readDate(whole.substr(0, blank));
-    const auto time = readTime(trimmed(whole.substr(blank)));
+    const auto date = readDate(whole.substr(0, space));
+    const auto time = readTime(trimmed(whole.substr(space)));
     if (!date || !time) return std::nullopt;
     return dateValueOf(*date, *time);
 }

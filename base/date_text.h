@@ -20,7 +20,7 @@ std::string timeText(CivilTime time);
 /// The time text of a date value that may be negative: of its fraction's magnitude.
 std::string timeText(DateValue value);
 
-/// Short date, blank, time.
+/// Short date, space, time.
 std::string generalText(DateValue value);
 
 /// "dddd, mmmm d, yyyy", such as Sunday, November 15, 2026.
@@ -44,7 +44,7 @@ std::string_view weekdayName(int weekday);
 /// The planet of the weekday, Sunday 1: "The Sun", "The Moon", "Mars", "Mercury", "Jupiter", "Venus", "Saturn".
 std::string_view weekdayRuler(int weekday);
 
-/// Reads "M/D/YYYY", "H:MM:SS", "H:MM" or a date and a time with blanks between and around them; a time alone gives a
+/// Reads "M/D/YYYY", "H:MM:SS", "H:MM" or a date and a time with spaces between and around them; a time alone is a
 /// value below 1. Nothing for any other text and for dates that do not exist.
 std::optional<DateValue> readDateTime(std::string_view text);
 

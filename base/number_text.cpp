@@ -4,6 +4,7 @@
 #include "base/text_lines.h"
 
 #include <array>
+#include <cassert>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -31,6 +32,7 @@ bool isDigit(char c) {
 } // namespace
 
 std::string formatFixed(double value, int decimals) {
+    assert(decimals >= 0 && decimals <= 12);
     // The C library rounds the exact expansion, with ties to even: a value on the half is moved off it first.
     const double printed = isHalfWay(value, decimals) ? awayFromZero(value) : value;
     std::array<char, 400> buffer{};

@@ -12,7 +12,7 @@ namespace velmoriax::base {
 /// becomes 0.13 and 1.005, which is below the half in binary, becomes 1.00.
 std::string formatFixed(double value, int decimals);
 
-/// The format "###": the whole number, rounded as `formatFixed` rounds, and nothing at all for what rounds to 0.
+/// The format "###": the whole number, rounded as `formatFixed` rounds, and the empty text for what rounds to 0.
 std::string formatWholeOrEmpty(double value);
 
 /// The plain text of a 32-bit number: the shortest digits that read back, no exponent.

@@ -21,7 +21,7 @@ public:
         invalidPicture = 481,
     };
 
-    /// `detail` names what failed (a file, a value) and stands below the platform's words in the fatal box.
+    /// `detail` names what failed (a file, a value) and is shown below the platform's words in the fatal box.
     explicit RunTimeError(Code code, std::string detail = {});
 
     Code code() const { return code_; }

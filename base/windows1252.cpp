@@ -40,21 +40,21 @@ char32_t composed(char32_t letter, char32_t mark) {
     return noCharacter;
 }
 
-/// Takes the next character off a UTF-8 text; one byte that is no UTF-8 is taken as `noCharacter`.
+/// Removes the next character from a UTF-8 text and returns it; a byte that is not UTF-8 is returned as `noCharacter`.
 char32_t takeCharacter(std::string_view& text) {
     const auto first = static_cast<unsigned char>(text.front());
     const int length = first < 0x80 ? 1 : first >> 5 == 6 ? 2 : first >> 4 == 14 ? 3 : first >> 3 == 30 ? 4 : 0;
     constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
     char32_t character = length == 1 ? first : first & (0x7F >> std::max(length, 1));
-    bool sound = length != 0 && text.size() >= static_cast<std::size_t>(length);
-    for (int i = 1; sound && i < length; ++i) {
+    bool valid = length != 0 && text.size() >= static_cast<std::size_t>(length);
+    for (int i = 1; valid && i < length; ++i) {
         const auto byte = static_cast<unsigned char>(text[static_cast<std::size_t>(i)]);
-        sound = byte >> 6 == 2;
+        valid = byte >> 6 == 2;
         character = character << 6 | (byte & 0x3F);
     }
-    sound = sound && character >= smallest[static_cast<std::size_t>(length)];
-    text.remove_prefix(sound ? static_cast<std::size_t>(length) : 1);
-    return sound ? character : noCharacter;
+    valid = valid && character >= smallest[static_cast<std::size_t>(length)];
+    text.remove_prefix(valid ? static_cast<std::size_t>(length) : 1);
+    return valid ? character : noCharacter;
 }
 
 char windows1252Byte(char32_t character) {

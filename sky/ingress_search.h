@@ -21,8 +21,8 @@ struct SignStay {
 /// afresh each time.
 ///
 /// A table holds a stay a line, such as "3/20/2005 12:33:00-4/19/2005 23:37:00", and ends at its first empty line. A
-/// missing or unreadable table leads on to the next sign. A date that cannot be read leaves the one read before it in
-/// force.
+/// missing or unreadable table is passed over. In place of a date that cannot be read the one read before
+/// it is used.
 std::optional<SignStay> findSignStay(const platform::Files& files, base::DateValue moment);
 
 } // namespace velmoriax::sky

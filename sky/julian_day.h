@@ -15,8 +15,8 @@ JulianDay julianDayFromDate(base::DateValue date);
 /// True from 1757593.50001 to 5373484.49998843, about the years 100 to 9999.
 bool julianDayInRange(JulianDay day);
 
-/// The date value of a Julian day, 0 when it is out of range. The first two days of the count (date values 0 to 2) take
-/// the road of the negative dates as well and come out wrong there.
+/// The date value of a Julian day, 0 when it is out of range. The first two days of the count (date values 0 to 2) are
+/// computed like the negative dates as well and are wrong there.
 base::DateValue dateFromJulianDay(JulianDay day);
 
 } // namespace velmoriax::sky

@@ -18,7 +18,7 @@ struct NameSince {
     std::string_view name;
 };
 
-/// From the end of the lunation to its beginning. "Wanning" is how the program has always spelled it.
+/// From the end of the lunation to its beginning. The spelling "Wanning" is intended.
 constexpr std::array<NameSince, 3> namesSince{{
     {MoonPhase::lastQuarter, "Wanning Crescent"},
     {MoonPhase::fullMoon, "Waning Gibbous"},

@@ -9,12 +9,12 @@
 
 namespace velmoriax::sky {
 
-/// True for the date values that the phase names are given for: all of the calendar but its two ends and the ten days
+/// True for the date values that have phase names: all of the calendar but its two ends and the ten days
 /// that the calendar of the reform of 1582 left out.
 bool isMoonDateValid(base::DateValue date);
 
 /// The Moon of a moment. Every date value is universal time, and so are the results. Nothing is kept between calls:
-/// each search lets pending events run once a round, and what runs there may ask the engine again.
+/// each search processes pending events once a round, and their handlers may call the engine.
 class MoonEngine {
 public:
     explicit MoonEngine(platform::PendingEvents& events) : events_(events) {}

@@ -39,7 +39,7 @@ double sunEclipticLongitude(double meanAnomaly) {
     return fixAngle(2 * radiansToDegrees(halfTrueAnomaly) + sunPerigee);
 }
 
-/// The Moon's true longitude, not folded.
+/// The Moon's true longitude, not folded; the amplitudes are the book's, in degrees.
 double moonTrueLongitude(double day, double sunAnomaly, double sunTrueLongitude) {
     const double mean = fixAngle(moonLongitudeRate * day + moonLongitude);
     const double meanAnomaly = fixAngle(mean - moonPerigeeRate * day - moonPerigee);

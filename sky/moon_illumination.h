@@ -4,8 +4,8 @@
 #include "base/date_value.h"
 
 /// The illuminated part of the Moon's disk, by the method of P. Duffett-Smith, Practical Astronomy with Your
-/// Calculator, from the epoch 1980 January 0.0. It stands apart from the series of the phases: every percentage comes
-/// from here and every date of a phase from there, and at the exact phases the two may disagree a little. Good to about
+/// Calculator, from the epoch 1980 January 0.0. It is independent of the series of the phases: every percentage is
+/// computed here and every date of a phase there, and at the exact phases the two may disagree a little. Good to about
 /// one per cent within a century or two of the epoch.
 namespace velmoriax::sky {
 

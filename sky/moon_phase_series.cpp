@@ -14,7 +14,8 @@ constexpr double radiansOfDegree = 0.0174532925199433;
 constexpr std::int32_t epochLunation = 953;
 constexpr double lunationsOfCentury = 1236.85;
 
-/// The mean values of a phase, k lunations after the epoch, with all angles folded.
+/// The mean values of a phase by the polynomials of the same chapter, k lunations after the epoch, with all angles
+/// folded.
 PhaseValues meanValues(double k) {
     const double T = k / lunationsOfCentury;
     const double T2 = T * T;
@@ -23,7 +24,7 @@ PhaseValues meanValues(double k) {
     v.E = 1 + (-7.4e-6 * T - 0.002516) * T;
     v.M = normalizedRadians(2.5534 + 29.10535669 * k + (-1.1e-7 * T - 2.18e-5) * T2);
     v.Mp = normalizedRadians(201.5643 + 385.81693528 * k + ((-5.8e-8 * T + 1.239e-5) * T + 0.0107438) * T2);
-    // A product where a chain would stand: the quadratic term -0.0016341 T2 is absent, and the instants rest on that.
+    // A product where the book has a sum: the quadratic term -0.0016341 T2 is missing. Kept, since it changes instants.
     v.F = normalizedRadians(160.7108 + 390.67050274 * k + ((1.1e-8 * T - 2.27e-6) * (-0.0016341 * T)) * T2);
     v.Om = normalizedRadians(124.7746 - 1.5637558 * k + (2.15e-6 * T + 0.0020691) * T2);
     for (std::size_t i = 0; i < planetaryTerms.size(); ++i) {

@@ -6,10 +6,10 @@
 #include <array>
 #include <cstdint>
 
-/// The instants of the Moon's principal phases after J. Meeus, Astronomical Algorithms (first edition, the series of
-/// the chapter on the phases of the Moon). Two details are this program's own: angles are folded by `truncatedModulo`,
+/// The instants of the Moon's principal phases after J. Meeus, Astronomical Algorithms, first edition,
+/// chapter 47, "Phases of the Moon". Two details are this program's own: angles are folded by `truncatedModulo`,
 /// and the argument of latitude lacks its usual quadratic term. Between 1700 and 2300 they move most phases by seconds,
-/// and one in some hundreds by up to a quarter of an hour. The instants stand in the series' own time scale, which is
+/// and one in some hundreds by up to a quarter of an hour. The instants are in the series' own time scale, which is
 /// shown as universal time without a correction: about a minute late today, more in other centuries.
 namespace velmoriax::sky {
 

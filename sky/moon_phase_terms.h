@@ -3,8 +3,8 @@
 
 #include <array>
 
-/// The periodic terms of the Moon's phases after J. Meeus, Astronomical Algorithms (first edition), in days. They hold
-/// best within some centuries of the year 2000.
+/// The periodic terms of the Moon's phases after J. Meeus, Astronomical Algorithms, first edition, chapter 47, in
+/// days. They hold best within some centuries of the year 2000.
 namespace velmoriax::sky {
 
 /// One term: coefficient * sin(moon * Mp + sun * M + latitude * F + node * Om) * E to the power `eccentricity`.

@@ -18,7 +18,7 @@ inline constexpr std::string_view moonPictureDirectory = "\\lunagif\\";
 /// The two windows choose by rules that differ at the edges.
 enum class MoonPictureRule {
     cardOfDay,  ///< "moon0.gif" to "moon30.gif": the last one from 359 degrees on, at the end of a long lunation
-    anotherDay, ///< "moon0.gif" to "moon29.gif", and no name above 361 degrees: the picture that stands is kept
+    anotherDay, ///< "moon0.gif" to "moon29.gif", and no name above 361 degrees: the picture that is shown is kept
 };
 
 std::string moonPictureName(float angle, MoonPictureRule rule);

@@ -68,7 +68,7 @@ std::string illuminationAndAge(double fraction, double age) {
            "Age of Moon: " + base::formatFixed(age, 7) + " days";
 }
 
-/// The name of a principal phase when the rounded percentage tells one, which it does for hours around the instant.
+/// The name of a principal phase when the rounded percentage shows one, which it does for hours around the instant.
 /// Empty otherwise, and for "50%" at a half angle of exactly 100, which belongs to neither quarter.
 std::string_view principalPhase(std::string_view percentText, std::int16_t h) {
     if (percentText == "100%") return "Full Moon";
@@ -88,7 +88,7 @@ MoonSummary moonPhaseText(const MoonEngine& engine, base::DateValue date, std::i
     const bool waning = h > halfAngleOfFull;
     if (waning) h = percentMissing(fraction);
     const std::string percent = base::formatWholeOrEmpty(percentCounted(waning, fraction));
-    // Nothing missing to full, or nothing lit yet, is told as 100% from the other end.
+    // Nothing missing to full, or nothing lit yet, is written as 100% from the other end.
     const bool fromFull = waning == percent.empty();
     const std::string percentText = percent.empty() ? "100%" : percent + "%";
     const std::string name(engine.moonPhaseName(date));

@@ -8,7 +8,7 @@
 #include <string>
 
 /// What the windows and the tray tip say about the Moon. Moments are universal time; `fraction` is the illuminated
-/// fraction of the same moment, 0 to 1. Lines are parted by a line feed.
+/// fraction of the same moment, 0 to 1. Lines are separated by a line feed.
 namespace velmoriax::sky {
 
 /// The summary between the principal phases.
@@ -26,11 +26,11 @@ struct MoonDetails {
     std::string labelDetall; ///< illumination and age
     std::string labelInfo;   ///< the four next or previous phases
     std::string labelResum;  ///< the summary line
-    std::string labelAd;     ///< names the list on view
+    std::string labelAd;     ///< names the list that is shown
     std::string moonPercentText;
 };
 
-/// Names the list on view.
+/// Names the list that is shown.
 std::string moonListHint(bool showPrevious);
 
 /// A moment, and the light of the Moon then.

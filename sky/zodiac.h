@@ -15,19 +15,19 @@
 /// tables the fixed calendar decides, and the change alert is then never shown.
 namespace velmoriax::sky {
 
-/// What a search asks of the desktop.
+/// The services that a search needs.
 struct SignSources {
     const platform::Files& files;
     const platform::TimeZone& zone;
 };
 
 /// The Card of the Day: the sign of the present moment, given as local time. Its day is today: it decides about the
-/// change of sign and the season. An empty `hemisferio` counts as south. Gives `cardOfDaySign` of the record.
+/// change of sign and the season. An empty `hemisferio` counts as south. Returns `cardOfDaySign` of the record.
 const SignReading& signoZod(const SignSources& sources, base::DateValue now, std::string_view hemisferio,
                             SkyState& state);
 
 /// Another Day: the sign of a day at its noon, taken as universal time. The noon's day decides about the change and the
-/// season. An empty `hemisferio` counts as north, other than in the Card of the Day. Gives `anotherDaySign`.
+/// season. An empty `hemisferio` counts as north, other than in the Card of the Day. Returns `anotherDaySign`.
 const SignReading& signoZodCalendar(const platform::Files& files, base::CivilDate date, std::string_view hemisferio,
                                     SkyState& state);
 
@@ -38,8 +38,8 @@ void signFromFixedTable(const platform::Files& files, base::DateValue date, Sign
 /// Hides the alert and empties change and season text, as Another Day does when a date is picked.
 void clearChange(SignReading& form);
 
-/// What a click on `ImageAlert` shows in the Card of the Day and in Another Day, two lines parted by a line feed. The
-/// moment of the change is told in local time, by the zone as it is now.
+/// What a click on `ImageAlert` shows in the Card of the Day and in Another Day, two lines separated by a line feed.
+/// The moment of the change is in local time, by the zone as it is now.
 std::string changeOfSignMessage(const SignReading& form, base::CivilDate today, const platform::TimeZone& zone);
 std::string changeOfSignMessageCalendar(const SignReading& form, const platform::TimeZone& zone);
 

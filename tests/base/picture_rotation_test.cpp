@@ -58,7 +58,7 @@ TEST(RotatePicture, TurnsTheRectangleAloneAndCutsItAtTheEdge) {
     EXPECT_EQ(across.bytes, (Bytes{1, 2, 3, 0})) << "what lies outside is black and comes in by the turn";
 }
 
-TEST(RotatePicture, TwoHalfTurnsAndFourQuarterTurnsGiveThePictureBack) {
+TEST(RotatePicture, TwoHalfTurnsAndFourQuarterTurnsRestoreThePicture) {
     for (const int mode : {turn::clockwise, turn::half, turn::counterClockwise}) {
         Picture picture(5, 5, 4, 1);
         const Bytes before = picture.bytes;
@@ -67,7 +67,7 @@ TEST(RotatePicture, TwoHalfTurnsAndFourQuarterTurnsGiveThePictureBack) {
     }
 }
 
-TEST(RotatePicture, RefusesAQuarterTurnOfWhatIsNotSquareAndLeavesItWhole) {
+TEST(RotatePicture, RefusesAQuarterTurnOfWhatIsNotSquareAndLeavesItUnchanged) {
     for (const int mode : {turn::clockwise, turn::counterClockwise}) {
         Picture picture(3, 2, 1);
         const Bytes before = picture.bytes;

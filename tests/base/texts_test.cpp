@@ -4,6 +4,7 @@
 #include "base/percent.h"
 #include "base/rounding.h"
 #include "base/run_time_error.h"
+#include "base/text_lines.h"
 #include "base/windows1252.h"
 #include "support/helpers.h"
 
@@ -42,7 +43,7 @@ TEST(NumberText, EmptyForWhatRoundsToZeroAndPlainWithoutAnExponent) {
     EXPECT_EQ(plainNumberText(1e6F), "1000000");
 }
 
-TEST(NumberText, LeadingNumberTakesWhatStandsInFront) {
+TEST(NumberText, LeadingNumberReadsTheBeginningOfAText) {
     EXPECT_EQ(leadingNumber("  -12.5abc"), -12.5);
     EXPECT_EQ(leadingNumber("+7"), 7);
     EXPECT_EQ(leadingNumber("1.2.3"), 1.2);
@@ -70,7 +71,7 @@ TEST(DateText, ReadsMomentsAndNothingElse) {
         EXPECT_FALSE(readDateTime(bad)) << bad;
 }
 
-TEST(WesternText, EveryByteComesBackAndWhatTheCodePageLacksIsMarked) {
+TEST(Windows1252, EveryByteComesBackAndWhatTheCodePageLacksIsMarked) {
     std::string all;
     for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
     EXPECT_EQ(toWindows1252(fromWindows1252(all)), all);
@@ -82,6 +83,29 @@ TEST(WesternText, EveryByteComesBackAndWhatTheCodePageLacksIsMarked) {
     EXPECT_EQ(toWindows1252("a\xFF\xC3"), "a??") << "broken UTF-8";
     EXPECT_EQ(toWindows1252("\xCC\x81"), "?") << "an accent alone";
     EXPECT_EQ(lowerWindows1252(toWindows1252("ÁÑŠ×ß")), toWindows1252("áñš×ß"));
+}
+
+TEST(TextLines, SplitAtLineFeedsOrAtAnyEndAndLoseNoByte) {
+    using Ends = LineEnds;
+    const test::Table<Ends, std::vector<std::string>> rows{
+        {Ends::feeds, {"a", "\r\n", "", "\n", "b\rc", "\r", "", ""}},
+        {Ends::any, {"a", "\r\n", "", "\n", "b", "\r", "c", "\r"}},
+    };
+    for (const auto& [ends, expected] : rows) {
+        std::string_view rest = "a\r\n\nb\rc\r";
+        std::vector<std::string> parts;
+        while (parts.size() < expected.size()) {
+            const Line line = takeLine(rest, ends);
+            parts.insert(parts.end(), {std::string(line.text), std::string(line.end)});
+        }
+        EXPECT_EQ(parts, expected);
+    }
+}
+
+TEST(TextLines, TrimsTheNamedCharactersAtBothEnds) {
+    EXPECT_EQ(trimmed("  a b\t "), "a b\t") << "the space alone by default";
+    EXPECT_EQ(trimmed(" \ta\r\n", " \t\r\n"), "a");
+    EXPECT_EQ(trimmed("   "), "");
 }
 
 TEST(PercentOf, ItsOddAnswers) {

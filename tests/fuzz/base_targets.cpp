@@ -28,14 +28,14 @@ void dates(std::string_view input) {
     const base::CivilMoment moment = base::civilMomentOf(*value);
     law(base::isValid(moment.date) && base::isValid(moment.time), "what is read is a moment of the calendar");
     law(base::readDateTime(base::generalText(*value)) == value, "the text of a moment reads back");
-    law(base::readDateTime(" " + std::string(input) + " ") == value, "blanks around a text do not count");
+    law(base::readDateTime(" " + std::string(input) + " ") == value, "spaces around a text do not count");
     law(base::fromLinearDays(base::linearDays(*value)) == *value || std::abs(*value) > 1, "one scale and back");
     law(!base::longDateText(moment.date).empty(), "every date has a long text");
 }
 
 void numbers(std::string_view input) {
     const double number = base::leadingNumber(input);
-    law(std::isfinite(number), "a text never gives an infinite number");
+    law(std::isfinite(number), "no text is read as an infinite number");
     const auto single = static_cast<float>(number);
     if (std::isfinite(single))
         law(static_cast<float>(base::leadingNumber(base::plainNumberText(single))) == single,

@@ -14,9 +14,9 @@ namespace {
 void isSign(const sky::SignReading& reading, const sky::SkyState& state) {
     law(reading.index >= 0 && reading.index < 12, "one of twelve signs");
     law(reading.label == sky::signNames[static_cast<std::size_t>(reading.index)], "under its name");
-    law(state.currentSignIndex == reading.index, "and the one that a click tells about");
+    law(state.currentSignIndex == reading.index, "and the one whose description a click shows");
     law(!reading.picturePath.empty() && !reading.tip.empty(), "with its picture and dates");
-    law(reading.alertVisible == !reading.changeText.empty(), "an alert has a moment to tell");
+    law(reading.alertVisible == !reading.changeText.empty(), "an alert has a moment");
 }
 
 } // namespace
