@@ -19,7 +19,7 @@ struct AboutText {
 };
 
 /// The texts for a program of this title and version. Paragraph and addresses come from the supplied "\velmoriax.ini",
-/// section "about": the paragraph in the keys `Paragraph1`, `Paragraph2` and so on, joined by blanks, since a value
+/// section "about": the paragraph in the keys `Paragraph1`, `Paragraph2` and so on, joined by spaces, since a value
 /// ends after 254 characters. An address that the file lacks comes back empty.
 AboutText aboutText(const OptionsStore& options, const std::string& applicationDirectory,
                     std::string_view applicationTitle, std::string_view version);

@@ -8,7 +8,8 @@
 /// ";". Names match without regard to case. The first section of a name and the first key of a name in it count.
 namespace velmoriax::shell {
 
-/// The value of a key: blanks around it and one pair of equal quotes are dropped. Empty when the key is missing.
+/// The value of a key: spaces and tabs around it and one pair of equal quotes are dropped. Empty when the key is
+/// missing.
 std::string profileValue(std::string_view file, std::string_view section, std::string_view key);
 
 /// The file with that one line changed or added; every other byte stays. A missing section is added at the end. Line

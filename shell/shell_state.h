@@ -12,7 +12,7 @@ struct ShellState {
     bool refreshingView = false;      ///< the card of the day is running its load routine on a live window
     bool closingAll = false;          ///< the program is ending: no sound of a module change; never cleared
     bool trayBusy = false;            ///< the tray tip must not start
-    bool notifOpen = false;           ///< the notification stands fully up
+    bool notifOpen = false;           ///< the notification is fully up
     bool noTrayAdd = false;           ///< no icon is added: the profile list or the compatibility window is open
     bool tipShown = false;            ///< the personal tooltip's content is up
     bool taskBarAtBottom = false;     ///< as last measured

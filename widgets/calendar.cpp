@@ -20,7 +20,7 @@ QTextCharFormat lettersIn(const QColor& colour) {
     return format;
 }
 
-/// The two arrows have no face of their own in the style of the house.
+/// The style sheet leaves the two arrows without an icon.
 void setArrow(const QCalendarWidget& calendar, const char* button, const char* picture) {
     if (auto* arrow = calendar.findChild<QToolButton*>(QLatin1String(button)))
         arrow->setIcon(QIcon(QLatin1String(picture)));

@@ -5,7 +5,7 @@ class QCalendarWidget;
 
 namespace velmoriax::widgets {
 
-/// Gives a calendar the look of the house, English names, weeks from Sunday and the years 100 to 9999.
+/// Sets up a calendar with the colours of `look`, English names, weeks from Sunday and the years 100 to 9999.
 void setUpCalendar(QCalendarWidget& calendar);
 
 } // namespace velmoriax::widgets

@@ -10,7 +10,7 @@
 
 class QDateEdit;
 
-/// Between the values of the rooms below and those of the toolkit.
+/// Conversions between texts and dates of the layers below and those of the toolkit.
 namespace velmoriax::widgets {
 
 inline QString qtText(std::string_view utf8) {

@@ -10,7 +10,7 @@ namespace velmoriax::widgets {
 bool pressFocusedButton(const QWidget& window, const QKeyEvent& event) {
     const bool isReturn = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     auto* button = qobject_cast<QAbstractButton*>(window.focusWidget());
-    // Check boxes and option buttons are set with the blank alone.
+    // Check boxes and option buttons are toggled by the space bar alone.
     const bool isPressed = qobject_cast<QPushButton*>(button) || qobject_cast<QToolButton*>(button);
     if (!isReturn || !isPressed) return false;
     if (!event.isAutoRepeat()) button->click();

@@ -6,7 +6,7 @@
 namespace velmoriax::widgets {
 
 /// A box for one question: a sentence that wraps. It holds a single line: Enter asks, and a line end that is pasted in
-/// becomes a blank, so that a record of the log keeps its lines.
+/// becomes a space, so that a record of the log keeps its lines.
 class QuestionBox : public QPlainTextEdit {
     Q_OBJECT
 
