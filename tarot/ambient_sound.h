@@ -8,7 +8,7 @@
 
 #include <string>
 
-/// The song behind the oracle: which one, whether it plays, and how it goes round.
+/// The song behind the oracle: which one, whether it plays, and how it is repeated.
 namespace velmoriax::tarot {
 
 /// The two words of the option SoundAmbient. The empty text counts as on, any other as off.
@@ -36,22 +36,22 @@ void openMidiDevice(AmbientSound& sound, const std::string& path, const AmbientS
 
 void closeAllMidi(AmbientSound& sound, platform::SongPlayer& songs);
 
-/// A tick of `TimerMidi`: a song that stands at its end begins again.
+/// A tick of `TimerMidi`: a song that has ended starts again.
 void tickMidi(const AmbientSound& sound, platform::SongPlayer& songs);
 
 /// The window closes: the song stops. `midiDeviceId` and the timer stay as they are, and the ticks find nothing to do,
-/// so that a window which comes back is silent until its switch is turned off and on.
+/// so that a window that is shown again is silent until its switch is turned off and on.
 void stopMidi(const AmbientSound& sound, platform::SongPlayer& songs);
 
-/// The sound at the load of the window, by the options. True when the switch stands on, which a song that cannot be
-/// played does not change.
+/// The sound at the load of the window, by the options. True when the switch is shown as on, which a song that cannot
+/// be played does not change.
 bool startAmbient(AmbientSound& sound, const AmbientServices& services);
 
 /// The switch, either way; it is remembered.
 void switchAmbientOn(AmbientSound& sound, const AmbientServices& services);
 void switchAmbientOff(AmbientSound& sound, const AmbientServices& services);
 
-/// Asks for a song and remembers it. What plays goes on: the choice counts from the next start of a song.
+/// Asks for a song and stores it. The song that plays is not changed: the choice is used at the next start.
 void chooseSong(platform::MessageBoxes& boxes, const AmbientServices& services);
 
 } // namespace velmoriax::tarot

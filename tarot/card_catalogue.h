@@ -70,7 +70,8 @@ std::string majorBackPath(std::string_view applicationDirectory);
 /// Writes the tip name of `currentCard` into `cardTipNames`. Does nothing outside 1 to 22.
 void fillCardTipName(CardState& state);
 
-/// `card` less 22 until it is at most 22: 23 gives 1, 44 gives 22. No second sum of digits. Keeps 0 and less.
+/// `card` less 22 until it is at most 22: 23 becomes 1, 44 becomes 22. No second sum of digits. 0 and less are
+/// unchanged.
 int reducedToMajor(int card);
 
 /// The same by 14, for the minor cards.

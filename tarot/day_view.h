@@ -13,7 +13,8 @@ namespace velmoriax::tarot {
 /// The date with its planet, such as "Sunday, November 15, 2026 (The Sun)".
 std::string cardOfDayDateLine(base::CivilDate today);
 
-/// The date line of Another Day, such as "Monday , November 15 of 2026" for a Sunday: the weekday is told one day late.
+/// The date line of Another Day, such as "Monday , November 15 of 2026" for a Sunday: the weekday is that of the next
+/// day.
 std::string chosenDateLine(base::CivilDate date);
 
 /// What a second of the clock brings to the window of today's card.

@@ -21,7 +21,7 @@ struct DrawnCard {
 /// Throws RunTimeError Subscript out of range for a total below 1.
 DrawnCard drawnMajor(int total, const Deck& deck, CardState& state);
 
-/// A card with the sum of digits that it comes from.
+/// A card and the digit sum from which it was reduced.
 struct DigitReading {
     std::int16_t digitSum = 0; ///< unreduced
     DrawnCard drawn;

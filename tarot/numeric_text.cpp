@@ -8,7 +8,7 @@ namespace velmoriax::tarot {
 
 namespace {
 
-/// Takes one of the characters off the front; false when another one stands there.
+/// Takes one of the characters off the front; false when the first character is another one.
 bool takeOne(std::string_view& text, std::string_view characters) {
     if (text.empty() || characters.find(text.front()) == characters.npos) return false;
     text.remove_prefix(1);
@@ -21,7 +21,7 @@ bool takeDigits(std::string_view& text) {
     return any;
 }
 
-/// A digit, and behind it digits and commas: how many digits stand between two commas is not looked at.
+/// A digit, and behind it digits and commas: the number of digits between two commas does not matter.
 bool takeWholePart(std::string_view& text) {
     const bool any = takeDigits(text);
     while (any && takeOne(text, "0123456789,")) {

@@ -65,19 +65,19 @@ std::optional<SuitReading> drawSuitCard(Suit suit, std::string_view question, Or
 }
 
 std::optional<FinalReading> drawFinalCard(std::string_view swordsText, base::DateValue now, OracleState& state,
-                                          CardState& cards, const OracleServices& services) {
+                                          const OracleServices& services) {
     readThrowOption(services.options);
     state.dateSum = sumdate(state.readingDate);
-    return sumapalos(swordsText, now, state, cards, services);
+    return sumapalos(swordsText, now, state, services);
 }
 
 std::optional<FinalReading> sumapalos(std::string_view swordsText, base::DateValue now, OracleState& state,
-                                      CardState& cards, const OracleServices& services) {
+                                      const OracleServices& services) {
     const int words = wordsOfAllSuits(state);
     state.globalCard = base::toInt16(words + state.dateSum);
     if (words == 0) return std::nullopt;
-    DrawnCard drawn =
-        drawnMajor(state.globalCard, {services.applicationDirectory, services.options.holders.tipocartas}, cards);
+    DrawnCard drawn = drawnMajor(state.globalCard, {services.applicationDirectory, services.options.holders.tipocartas},
+                                 services.cards);
     state.globalCard = drawn.card;
     state.currentCardNumber = drawn.card;
     state.finalDrawn = true;

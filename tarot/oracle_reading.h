@@ -34,11 +34,13 @@ struct OracleState {
     const SuitDraw& of(Suit suit) const { return suits[static_cast<std::size_t>(suit)]; }
 };
 
-/// What a draw takes from outside: the kind of throw and the deck, chance, and where the pictures lie.
+/// What a draw needs: the kind of throw and the deck, the random numbers, the directory of the data, and the names of
+/// the cards, one of which the final card fills.
 struct OracleServices {
     shell::OptionsStore& options;
     platform::RandomSource& random;
     std::string applicationDirectory;
+    CardState& cards;
 };
 
 struct SuitReading {
@@ -67,12 +69,12 @@ std::optional<SuitReading> drawSuitCard(Suit suit, std::string_view question, Or
 
 /// The button "RESULTANT": kind of throw and date anew, then `sumapalos`.
 std::optional<FinalReading> drawFinalCard(std::string_view swordsText, base::DateValue now, OracleState& state,
-                                          CardState& cards, const OracleServices& services);
+                                          const OracleServices& services);
 
 /// The final card, of the suits' word sums and the date's. Nothing when no suit has been asked. `swordsText` is what
 /// the box of the swords holds at that moment: the record is kept only with it.
 std::optional<FinalReading> sumapalos(std::string_view swordsText, base::DateValue now, OracleState& state,
-                                      CardState& cards, const OracleServices& services);
+                                      const OracleServices& services);
 
 /// Takes a date for the reading; the final card is no longer open.
 void chooseDate(OracleState& state, base::CivilDate date);

@@ -59,7 +59,7 @@ struct FinalRecord {
     Orientation orientation = Orientation::notThrown;
 };
 
-/// Adds a record to the end of its log, which comes into being when its folder is there.
+/// Adds a record to the end of its log, which is created if its folder exists.
 void appendRecord(platform::Files& files, const NumbersRecord& record);
 void appendRecord(platform::Files& files, const NamesRecord& record);
 void appendRecord(platform::Files& files, const SuitRecord& record);

@@ -11,7 +11,7 @@ namespace velmoriax::tarot {
 inline constexpr double cardCornerShare = 0.045;
 
 /// Shows the description of `currentCard` in an information box, titled with the card's name, with
-/// `cardDescriptionOpen` up while it stands. Outside 1 to 22 nothing is shown.
+/// `cardDescriptionOpen` true while it is open. Outside 1 to 22 nothing is shown.
 void showCardDescription(const CardState& cards, shell::ShellState& flags, platform::MessageBoxes& boxes);
 
 } // namespace velmoriax::tarot

@@ -98,7 +98,7 @@ void FrmCalendar::drawDateMoon(base::CivilDate date) {
     ui_->LabelFase->show();
 }
 
-// ---- What is told about it
+// ---- Information about the day
 
 void FrmCalendar::describeCard() {
     tarot_.state.cards.currentCard = dateCard_;
@@ -119,7 +119,7 @@ void FrmCalendar::showSignText() {
 }
 
 bool FrmCalendar::eventFilter(QObject* watched, QEvent* event) {
-    // A key or button that is let go elsewhere is not told to the picture.
+    // The picture gets no event for a key or button that is released elsewhere.
     if (event->type() == QEvent::FocusOut) ui_->TextZod->hide();
     return ModuleWindow::eventFilter(watched, event);
 }

@@ -35,7 +35,7 @@ namespace {
 constexpr int kronoAfterMs = 40; ///< behind the hub's tick, whose texts are copied
 constexpr int timerPlusMs = 60000;
 constexpr int signGap = 8;              ///< between the pane about the sign and what it leaves free
-constexpr double detailsBelowTop = 1.7; ///< where the moon details stand, in heights of their own
+constexpr double detailsBelowTop = 1.7; ///< top of the moon details, in their own heights
 constexpr std::string_view welcome = "Welcome to Velmoriax, change the birth date to calculate biorhythms.";
 
 void keepPlaceWhenHidden(QWidget& control) {
@@ -49,7 +49,7 @@ void keepPlaceWhenHidden(QWidget& control) {
 FrmCartaDia::FrmCartaDia(shell::WindowContext& context, TarotContext& tarot) :
     ModuleWindow(context, cardOfDayModule), tarot_(tarot), ui_(std::make_unique<Ui::FrmCartaDia>()),
     krono_(kronoAfterMs, this), timerPlus_(this) {
-    tarot_.sky.cardOfDaySign = {}; // the season that it told is not carried over to another window
+    tarot_.sky.cardOfDaySign = {}; // a season found earlier does not carry over to a new window
     openTarotPictures();
     ui_->setupUi(this);
     setUpControls();
@@ -283,7 +283,7 @@ void FrmCartaDia::onMinimised(bool toSystray) {
 }
 
 void FrmCartaDia::onUnload() {
-    // A window that goes while the midnight card stands must not leave the next one believing that it is a refresh.
+    // If this window is deleted while the midnight card is shown, the load of the next one must not be a refresh.
     state().refreshingView = false;
     if (!(windowState() & (Qt::WindowMinimized | Qt::WindowMaximized)))
         shell::storePlace(options(), shell::placeOf(*this));

@@ -4,6 +4,7 @@
 #include "tarot/modules.h"
 #include "tarot/windows/card_description.h"
 #include "tarot/windows/card_picture.h"
+#include "tarot/windows/tarot_pictures.h"
 #include "ui_frm_oracle.h"
 #include "widgets/calendar.h"
 #include "widgets/conversions.h"
@@ -11,11 +12,6 @@
 
 #include <QDate>
 #include <QShortcut>
-
-/// The pictures lie in a static library: they have to be asked for by name, outside any namespace.
-static void openPictures() {
-    Q_INIT_RESOURCE(oracle_pictures);
-}
 
 namespace velmoriax::tarot {
 
@@ -40,7 +36,7 @@ constexpr std::array<const char*, 4> facedDown{"Wands card, face down", "Cups ca
 Frmoracle::Frmoracle(shell::WindowContext& context, TarotContext& tarot) :
     ModuleWindow(context, oracleModule), tarot_(tarot), ui_(std::make_unique<Ui::Frmoracle>()),
     results_(oracleLog, "MnuRegResult", *this, context), state_(tarot.state.oracle) {
-    openPictures();
+    openTarotPictures();
     ui_->setupUi(this);
     suits_ = {{{Suit::batons, ui_->TxtBas, ui_->ARButtonAcepBas, ui_->imgbas},
                {Suit::cups, ui_->TxtCop, ui_->ARButtonAcepCop, ui_->imgcop},
@@ -113,7 +109,7 @@ void Frmoracle::connectControls() {
 }
 
 OracleServices Frmoracle::reader() const {
-    return {options(), desktop().random, desktop().files.applicationDirectory()};
+    return {options(), desktop().random, desktop().files.applicationDirectory(), tarot_.state.cards};
 }
 
 AmbientServices Frmoracle::ambience() const {
@@ -152,8 +148,8 @@ void Frmoracle::read(const SuitControls& controls) {
 }
 
 void Frmoracle::showResultant() {
-    const auto reading = drawFinalCard(ui_->TxtEsp->toPlainText().toStdString(), desktop().clock.now(), state_,
-                                       tarot_.state.cards, reader());
+    const auto reading =
+        drawFinalCard(ui_->TxtEsp->toPlainText().toStdString(), desktop().clock.now(), state_, reader());
     followState();
     if (!reading) return;
     const DrawnCard& drawn = reading->drawn;

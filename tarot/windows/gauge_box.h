@@ -10,7 +10,7 @@ struct AverageGauge;
 namespace velmoriax::tarot {
 
 /// The average gauge: a bar over the whole width, up from the middle line for a positive day and down for a negative
-/// one. It answers clicks like a button; those who cannot see it are told its two lines.
+/// one. It answers clicks like a button; its two lines are its accessible description.
 class GaugeBox : public QAbstractButton {
     Q_OBJECT
 

@@ -22,7 +22,7 @@ public:
     /// Carries out the entry of that control name, when it is one of the three.
     void run(std::string_view name);
 
-    /// Writes the record of a reading when the check mark stands.
+    /// Writes the record of a reading when the check mark is set.
     template<typename Record>
     void keep(const Record& record) {
         if (saves()) appendRecord(context_.desktop.files, record);

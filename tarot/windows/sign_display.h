@@ -23,11 +23,11 @@ struct SignControls {
     QToolButton& ImageAlert;
 };
 
-/// Puts a search's answer into the controls. A sign picture that is missing leaves the one that stands: nothing about
+/// Shows a sign in the controls. If its picture is missing, the picture shown before stays: nothing about
 /// the signs stops the program.
 void showSign(const sky::SignReading& sign, const platform::Files& files, const SignControls& controls);
 
-/// "TextZod": what is told about a sign, a quiet pane that lies over a part of the window while it is asked for.
+/// "TextZod": the text about a sign, in a pane over a part of the window while the user asks for it.
 class SignPane : public QLabel {
     Q_OBJECT
 

@@ -4,7 +4,7 @@
 #include <QResource>
 #include <QtGlobal>
 
-/// To be called outside any namespace.
+/// The macro works only outside any namespace.
 static void openResources() {
     Q_INIT_RESOURCE(tarot_pictures);
 }

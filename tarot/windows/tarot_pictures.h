@@ -3,7 +3,8 @@
 
 namespace velmoriax::tarot {
 
-/// Opens the icons of this room, ":/tarot/". They lie in a static library and have to be asked for.
+/// Registers the pictures of these windows, ":/tarot/" and ":/oracle/". Resources of a static library are not
+/// registered by themselves.
 void openTarotPictures();
 
 } // namespace velmoriax::tarot

@@ -21,16 +21,14 @@ struct Oracle : testing::Test {
     shell::OptionsStore options{files};
     OracleState state;
     CardState cards;
-    OracleServices services{options, random, files.directory};
+    OracleServices services{options, random, files.directory, cards};
 
     Oracle() {
         options.holders.tipocartas = "marsellaone";
         state.readingDate = november15;
     }
     auto draw(Suit suit, std::string_view question) { return drawSuitCard(suit, question, state, services); }
-    auto drawFinal(std::string_view swordsText = "x") {
-        return drawFinalCard(swordsText, evening, state, cards, services);
-    }
+    auto drawFinal(std::string_view swordsText = "x") { return drawFinalCard(swordsText, evening, state, services); }
 };
 
 TEST(Sustituir, CountsLettersAndDigitsAndNothingElse) {
