@@ -164,8 +164,8 @@ std::string valueLines(const BioState& state) {
 std::string alertKey(std::string_view alertLevel, const AlertMessages& messages) {
     const HeadRule* rule = ruleOf(alertLevel);
     const bool usesPhases = rule && std::ranges::count(rule->order, Piece::phases) > 0;
-    std::string key = usesPhases ? joinAlertTexts(messages.phases) : std::string{};
-    return key.append(messages.critical).append(messages.crossing);
+    std::string phaseMessagesJoined = usesPhases ? joinAlertTexts(messages.phases) : std::string{};
+    return phaseMessagesJoined.append(messages.critical).append(messages.crossing);
 }
 
 bool alertOpens(const AlertState& record, std::string_view alertLevel, std::string_view key) {

@@ -65,10 +65,10 @@ std::string_view phaseMessage(const PhaseRow& row, float back, float now, float 
 }
 
 std::string_view crossingOf(const CrossingRow& row, const CyclesAround& around) {
-    const float a = around.now[row.a];
-    const float b = around.now[row.b];
-    const float aNext = around.next[row.a];
-    const float bNext = around.next[row.b];
+    const float a = around.cycle[row.a];
+    const float b = around.cycle[row.b];
+    const float aNext = around.cycleNext[row.a];
+    const float bNext = around.cycleNext[row.b];
     if (a < aNext && b > bNext && a < b && a > bNext) return row.upward;
     if (a > aNext && b < bNext && a > b && a < bNext) return row.downward;
     return {};
@@ -79,16 +79,16 @@ std::string_view crossingOf(const CrossingRow& row, const CyclesAround& around) 
 std::array<std::string_view, cycleCount> phaseMessages(const CyclesAround& around) {
     std::array<std::string_view, cycleCount> messages;
     for (std::size_t i = 0; i < cycleCount; ++i)
-        messages[i] = phaseMessage(phaseTable[i], around.back[i], around.now[i], around.next[i]);
+        messages[i] = phaseMessage(phaseTable[i], around.cycleBack[i], around.cycle[i], around.cycleNext[i]);
     return messages;
 }
 
 std::string_view criticalMessage(const CyclesAround& around) {
     for (std::size_t i = 0; i < cycleCount; ++i) {
-        const float now = around.now[i];
+        const float now = around.cycle[i];
         if (now <= -criticalBound || now >= criticalBound) continue;
-        if (now > around.next[i]) return criticalTable[i].passive;
-        if (now < around.next[i]) return criticalTable[i].active;
+        if (now > around.cycleNext[i]) return criticalTable[i].passive;
+        if (now < around.cycleNext[i]) return criticalTable[i].active;
     }
     return {};
 }

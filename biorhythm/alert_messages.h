@@ -15,9 +15,9 @@ inline constexpr std::string_view lineBreak = "\r\n";
 
 /// The cycles around a moment.
 struct CyclesAround {
-    CycleValues back; ///< an hour before
-    CycleValues now;
-    CycleValues next; ///< an hour after
+    CycleValues cycleBack; ///< an hour before
+    CycleValues cycle;
+    CycleValues cycleNext; ///< an hour after
 };
 
 /// The messages of a moment; empty where there is nothing to say.

@@ -5,7 +5,7 @@
 #include "base/number_text.h"
 #include "biorhythm/profile_files.h"
 #include "biorhythm/profile_store.h"
-#include "biorhythm/stepper_dates.h"
+#include "biorhythm/view_dates.h"
 
 namespace velmoriax::biorhythm {
 
@@ -18,18 +18,18 @@ CycleShown shownCycle(float now, float next) {
     return {"(" + percentText(now) + " %)", now >= 0 ? valueGreen : pureRed, now, trendOf(now, next)};
 }
 
-/// A date that differs from the one on the steppers is a change of them, and a change of the birth returns the reading
-/// to today.
-void setBirthOnSteppers(BioViewState& view, const base::CivilMoment& birth) {
-    const base::CivilDate date = onSteppers(birth.date);
+/// A date that differs from the one on the spin boxes is a change of them, and a change of the birth returns the
+/// reading to today.
+void setBirth(BioViewState& view, const base::CivilMoment& birth) {
+    const base::CivilDate date = withinView(birth.date);
     if (date != view.birth.date) view.manualDate = false;
     view.birth = {date, birth.time};
 }
 
-/// Steppers that move count as moved by hand, whoever moved them: a date that they were returned to stays there past
+/// Spin boxes that move count as moved by hand, whoever moved them: a date that they were returned to stays there past
 /// midnight, until the next half-hour, the button or a change of the birth returns them again.
 void returnToToday(BioViewState& view, base::CivilDate today) {
-    const base::CivilDate reading = onSteppers(today);
+    const base::CivilDate reading = withinView(today);
     view.manualDate = reading != view.reading;
     view.reading = reading;
 }
@@ -40,9 +40,9 @@ void loadBioView(const platform::Files& files, BioState& state, BioViewState& vi
     loadFinalDate(files, state, today);
     loadBirth(files, state);
     loadBirthTime(files, state);
-    view.target = finalDateOf(state);
-    setBirthOnSteppers(view, birthOf(state));
-    view.reading = onSteppers(today);
+    view.finalDate = finalDateOf(state);
+    setBirth(view, birthOf(state));
+    view.reading = withinView(today);
     view.manualDate = true;
 }
 
@@ -54,7 +54,7 @@ BioShown calcBio(BioState& state, BioViewState& view, base::DateValue now) {
     computeAverage(state);
     BioShown shown{};
     shown.livedDays = base::formatFixed(state.lived, 2);
-    shown.remainingDays = base::daysBetween(view.reading, view.target);
+    shown.remainingDays = base::daysBetween(view.reading, view.finalDate);
     for (std::size_t i = 0; i < cycleCount; ++i) shown.cycles[i] = shownCycle(state.cycle[i], state.cycleNext[i]);
     shown.average = averageLine(state);
     shown.averageColour = base::leadingNumber(state.averageText) >= 0 ? pureGreen : pureRed;
@@ -73,9 +73,9 @@ bool pickProfile(platform::Files& files, shell::OptionsStore& options, BioState&
                  std::string_view name) {
     const auto birth = findProfile(files, name);
     if (!birth) return false;
-    setBirthOnSteppers(view, *birth);
+    setBirth(view, *birth);
     options.setOption(shell::key::perfilBio, name);
-    saveBioState(files, state, view.birth, view.target);
+    saveBioState(files, state, view.birth, view.finalDate);
     return true;
 }
 

@@ -10,15 +10,15 @@
 #include <string>
 #include <string_view>
 
-/// What the Biorhythm view holds on its steppers and what it shows of them.
+/// What the Biorhythm view holds on its spin boxes and what it shows of them.
 namespace velmoriax::biorhythm {
 
-/// The view's own state; the dates are those of its steppers and its date picker.
+/// The view's own state; the dates are those of its spin boxes and its date picker.
 struct BioViewState {
     bool manualDate = false;       ///< false: each calculation first returns to today
-    base::CivilMoment birth;       ///< birth date and time of the steppers
+    base::CivilMoment birth;       ///< birth date and time of the spin boxes
     base::CivilDate reading;       ///< date of reading
-    base::CivilDate target;        ///< target date of the remaining days
+    base::CivilDate finalDate;     ///< target date of the remaining days, what `finalDateText` says
     std::int16_t bioTickCount = 0; ///< half-minutes since the view last returned to today
 };
 
@@ -40,7 +40,7 @@ struct BioShown {
     std::string time; ///< "Time: " and the clock's time
 };
 
-/// Reads the three files into the record and the view's steppers, the reading on today.
+/// Reads the three files into the record and the view's spin boxes, the reading on today.
 void loadBioView(const platform::Files& files, BioState& state, BioViewState& view, base::CivilDate today);
 
 /// The one calculation of the view: returns the reading to today unless `manualDate` (which is up when that moved it),
@@ -51,8 +51,8 @@ BioShown calcBio(BioState& state, BioViewState& view, base::DateValue now);
 /// A half-minute's tick; true each half hour, when the view is to return to today and calculate.
 bool halfHourIsOver(BioViewState& view);
 
-/// A choice in the list of profiles: takes the person's birth on the steppers, stores the name as the main profile and
-/// saves. False, with nothing changed, when no birth of that name can be read. Throws what saving throws.
+/// A choice in the list of profiles: takes the person's birth on the spin boxes, stores the name as the main profile
+/// and saves. False, with nothing changed, when no birth of that name can be read. Throws what saving throws.
 bool pickProfile(platform::Files& files, shell::OptionsStore& options, BioState& state, BioViewState& view,
                  std::string_view name);
 

@@ -14,7 +14,7 @@ namespace velmoriax::biorhythm {
 struct EditedProfile {
     std::string name;
     std::optional<base::CivilDate> date; ///< nothing when the line holds no date: the user is to choose one
-    base::CivilTime time;                ///< within the steppers' bounds, whatever stands in the line
+    base::CivilTime time;                ///< within the spin boxes' bounds, whatever stands in the line
 };
 
 /// Splits a line. The hour is the first two characters of the time field, or one before a colon; the minute is what

@@ -4,7 +4,7 @@
 #include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "biorhythm/field_text.h"
-#include "biorhythm/stepper_dates.h"
+#include "biorhythm/view_dates.h"
 
 #include <array>
 #include <initializer_list>
@@ -105,7 +105,7 @@ void writeDate(platform::Files& files, std::string_view file, base::CivilDate da
 
 void loadBirth(const platform::Files& files, BioState& state) {
     const base::CivilDate birth = readDate(files, birthFile);
-    const bool fitsSteppers = birth.year >= firstStepperYear && birth.year <= lastStepperYear;
+    const bool fitsSteppers = birth.year >= firstViewYear && birth.year <= lastViewYear;
     if (!base::isValid(birth) || !fitsSteppers) fail(Code::typeMismatch, birthFile);
     setBirthDate(state, birth);
 }

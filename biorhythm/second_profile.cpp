@@ -36,7 +36,9 @@ void storeDrawSecond(shell::OptionsStore& options, SecondProfile& second, bool d
 }
 
 void computeSecondLived(SecondProfile& second, base::CivilDate reading, base::CivilTime clock) {
-    second.secondLived = livedOf({second.secondDate, second.secondTime}, reading, clock).lived;
+    const auto [secondWholeDays, secondMinutesLeft, secondLivedAtMidnight, secondLived] =
+        livedOf({second.secondDate, second.secondTime}, reading, clock);
+    second.secondLived = secondLived;
 }
 
 } // namespace velmoriax::biorhythm

@@ -55,7 +55,7 @@ struct OptionHolders {
     std::string hemisferio;     ///< "Norte" or "Sur"
     std::string bgSound;        ///< "SiBgSound" or "NoBgSound"
     bool realThrow = false;     ///< whether the oracle's cards can fall inverted
-    std::string perfilBio;
+    std::string profileMainName;
     std::string dibujarSecundario;
     std::string nombreSecundario;
 
@@ -99,7 +99,7 @@ public:
     const std::string& leerEstiloTooltips() { return readInto(holders.estiloTooltips, key::estiloTooltips); }
     const std::string& leerHemisferio() { return readInto(holders.hemisferio, key::hemisferio); }
     const std::string& leerBgSound() { return readInto(holders.bgSound, key::backgroundSound); }
-    const std::string& leerPerfilBio() { return readInto(holders.perfilBio, key::perfilBio); }
+    const std::string& leerPerfilBio() { return readInto(holders.profileMainName, key::perfilBio); }
     const std::string& leerDibujarSecundario() { return readInto(holders.dibujarSecundario, key::dibujarSecundario); }
     const std::string& leerNombreSecundario() { return readInto(holders.nombreSecundario, key::nombreSecundario); }
 

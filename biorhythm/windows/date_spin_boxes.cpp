@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "biorhythm/windows/date_spin_boxes.h"
 
-#include "biorhythm/stepper_dates.h"
+#include "biorhythm/view_dates.h"
 #include "widgets/spin_box.h"
 
 #include <QSignalBlocker>
@@ -10,10 +10,10 @@ namespace velmoriax::biorhythm {
 
 DateSpinBoxes::DateSpinBoxes(widgets::SpinBox& day, widgets::SpinBox& month, widgets::SpinBox& year) :
     day_(day), month_(month), year_(year) {
-    year_.setRange(firstStepperYear, lastStepperYear);
-    day_.setRange(1, stepperDays(firstStepperYear, 1));
-    for (widgets::SpinBox* stepper : {&day_, &month_, &year_})
-        QObject::connect(stepper, &widgets::SpinBox::valueChanged, stepper, [this] { stepped(); });
+    year_.setRange(firstViewYear, lastViewYear);
+    day_.setRange(1, daysInViewMonth(firstViewYear, 1));
+    for (widgets::SpinBox* box : {&day_, &month_, &year_})
+        QObject::connect(box, &widgets::SpinBox::valueChanged, box, [this] { stepped(); });
 }
 
 base::CivilDate DateSpinBoxes::date() const {
@@ -23,7 +23,7 @@ base::CivilDate DateSpinBoxes::date() const {
 void DateSpinBoxes::show(base::CivilDate date) {
     // The bound comes before the day: a 31 is to stand where a shorter month stood.
     const QSignalBlocker quiet(&day_);
-    day_.setMaximum(stepperDays(date.year, date.month));
+    day_.setMaximum(daysInViewMonth(date.year, date.month));
     day_.setValue(date.day);
     month_.showValue(date.month);
     year_.showValue(date.year);

@@ -11,7 +11,7 @@ class SpinBox;
 
 namespace velmoriax::biorhythm {
 
-/// Three steppers that hold one date. The day is kept within the month's length before anyone hears of a change.
+/// Three spin boxes that hold one date. The day is kept within the month's length before anyone hears of a change.
 class DateSpinBoxes {
 public:
     DateSpinBoxes(widgets::SpinBox& day, widgets::SpinBox& month, widgets::SpinBox& year);
@@ -20,10 +20,10 @@ public:
 
     base::CivilDate date() const;
 
-    /// Puts a whole date on the steppers and tells nobody.
+    /// Puts a whole date on the spin boxes and tells nobody.
     void show(base::CivilDate date);
 
-    /// Runs when a stepper was moved, with a date that is within the month.
+    /// Runs when a spin box was moved, with a date that is within the month.
     std::function<void(base::CivilDate)> changed;
 
 private:

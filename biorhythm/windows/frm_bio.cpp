@@ -7,8 +7,9 @@
 #include "biorhythm/modules.h"
 #include "biorhythm/profile_files.h"
 #include "biorhythm/profile_store.h"
-#include "biorhythm/stepper_dates.h"
+#include "biorhythm/view_dates.h"
 #include "biorhythm/windows/bio_colours.h"
+#include "biorhythm/windows/cycle_row.h"
 #include "biorhythm/windows/date_spin_boxes.h"
 #include "biorhythm/windows/form_mod.h"
 #include "biorhythm/windows/form_snap.h"
@@ -36,26 +37,11 @@ namespace {
 constexpr int halfMinute = 30000;  ///< ms
 constexpr int timeCaptionHead = 6; ///< characters of "Time: "
 
-void setColour(QWidget& label, const QColor& colour) {
-    QPalette palette = label.palette();
-    if (palette.color(QPalette::WindowText) == colour) return;
-    palette.setColor(QPalette::WindowText, colour);
-    label.setPalette(palette);
-}
-
-/// The labels of one cycle.
-struct CycleRow {
-    QLabel* name;
-    QLabel* value;
-    QLabel* up;
-    QLabel* down;
-};
-
 std::array<CycleRow, cycleCount> cycleRows(const Ui::frmBio& ui) {
-    return {{{ui.NameFis, ui.LabelFis, ui.Fisascmini, ui.Fisdescmini},
-             {ui.NameEmo, ui.LabelEmo, ui.Emoascmini, ui.Emodescmini},
-             {ui.NameInte, ui.LabelInte, ui.Inteascmini, ui.Intedescmini},
-             {ui.NameIntu, ui.LabelInt, ui.Intuascmini, ui.Intudescmini}}};
+    return {{{*ui.NameFis, *ui.LabelFis, *ui.Fisascmini, *ui.Fisdescmini},
+             {*ui.NameEmo, *ui.LabelEmo, *ui.Emoascmini, *ui.Emodescmini},
+             {*ui.NameInte, *ui.LabelInte, *ui.Inteascmini, *ui.Intedescmini},
+             {*ui.NameIntu, *ui.LabelInt, *ui.Intuascmini, *ui.Intudescmini}}};
 }
 
 } // namespace
@@ -69,7 +55,7 @@ frmBio::frmBio(shell::WindowContext& context, BiorhythmState& biorhythms) :
     arrows_ = new ReadingArrows(*ui_->CmdArrowLeft, *ui_->CmdArrowRight);
     setUpControls();
     buildNavigation();
-    connectSteppers();
+    connectDateBoxes();
     connectTimeOfBirth();
     connectReading();
     connectProfiles();
@@ -80,13 +66,7 @@ frmBio::~frmBio() = default;
 void frmBio::setUpControls() {
     ui_->MSChart1->takeDrawing(loadPlotDrawing(desktop().pluginFolder, *ui_->MSChart1));
     const auto rows = cycleRows(*ui_);
-    for (std::size_t i = 0; i < cycleCount; ++i) {
-        setColour(*rows[i].name, colourOf(barTable[i].colour));
-        rows[i].up->setPixmap(QPixmap(QStringLiteral(":/bio/trend_up.png")));
-        rows[i].down->setPixmap(QPixmap(QStringLiteral(":/bio/trend_down.png")));
-        rows[i].up->hide();
-        rows[i].down->hide();
-    }
+    for (std::size_t i = 0; i < cycleCount; ++i) rows[i].setUp(colourOf(barTable[i].colour));
     ui_->CmdArrowLeft->setIcon(QIcon(QStringLiteral(":/look/pictures/arrow_left-24.png")));
     ui_->CmdArrowRight->setIcon(QIcon(QStringLiteral(":/look/pictures/arrow_right-24.png")));
     ui_->CmdAlert->setIcon(QIcon(QStringLiteral(":/bio/alert.png")));
@@ -95,7 +75,7 @@ void frmBio::setUpControls() {
     widgets::openPicker(*ui_->DTPicker1);
 }
 
-void frmBio::connectSteppers() {
+void frmBio::connectDateBoxes() {
     birthBoxes_->changed = [this](base::CivilDate date) {
         view().manualDate = false;
         view().birth.date = date;
@@ -131,7 +111,7 @@ void frmBio::connectReading() {
         view().manualDate = false;
         calcBio();
     });
-    connect(ui_->CmdGo, &QPushButton::clicked, this, [this] { goToReading(onSteppers(view().target)); });
+    connect(ui_->CmdGo, &QPushButton::clicked, this, [this] { goToReading(withinView(view().finalDate)); });
     connect(ui_->DTPicker1, &QDateEdit::dateChanged, this, &frmBio::takeTarget);
     connect(arrows_, &ReadingArrows::held, this, [this] { view().manualDate = true; });
     connect(arrows_, &ReadingArrows::stepped, this, &frmBio::stepReading);
@@ -150,7 +130,7 @@ void frmBio::ownLoad() {
     auto& files = desktop().files;
     loadBioView(files, biorhythms_.bio, view(), base::civilDateOf(desktop().clock.now()));
     const QSignalBlocker quiet(ui_->DTPicker1);
-    ui_->DTPicker1->setDate(widgets::qtDate(view().target));
+    ui_->DTPicker1->setDate(widgets::qtDate(view().finalDate));
     showBirth();
     createProfileList(files);
     const auto names = biorhythm::profileNames(files);
@@ -190,13 +170,8 @@ void frmBio::show(const BioShown& shown) {
     const auto rows = cycleRows(*ui_);
     CycleValues bars{};
     for (std::size_t i = 0; i < cycleCount; ++i) {
-        const CycleShown& cycle = shown.cycles[i];
-        bars[i] = cycle.bar;
-        rows[i].value->setText(widgets::qtText(cycle.caption));
-        setColour(*rows[i].value, colourOf(cycle.colour));
-        if (cycle.trend == shell::Trend::level) continue;
-        rows[i].up->setVisible(cycle.trend == shell::Trend::rising);
-        rows[i].down->setVisible(cycle.trend == shell::Trend::falling);
+        bars[i] = shown.cycles[i].bar;
+        rows[i].show(shown.cycles[i]);
     }
     ui_->PicBio->setBars(bars);
 }
@@ -209,7 +184,7 @@ void frmBio::mschart() {
     if (!drawsSecond(second, profiles)) hideSecondName();
 }
 
-QString frmBio::mainName() const {
+QString frmBio::profileMainName() const {
     return ui_->ComboProfiles->currentText();
 }
 
@@ -265,13 +240,13 @@ void frmBio::takeTimeOfBirth() {
 
 /// Until the next calculation the days are counted from today, and only then from the date of reading.
 void frmBio::takeTarget() {
-    view().target = widgets::civilDate(ui_->DTPicker1->date());
-    setFinalDate(biorhythms_.bio, view().target);
-    ui_->LblRest->setNum(base::daysBetween(base::civilDateOf(desktop().clock.now()), view().target));
+    view().finalDate = widgets::civilDate(ui_->DTPicker1->date());
+    setFinalDate(biorhythms_.bio, view().finalDate);
+    ui_->LblRest->setNum(base::daysBetween(base::civilDateOf(desktop().clock.now()), view().finalDate));
 }
 
-/// The three steppers count as moved once, with the whole date: on the way from one month to another the day would pass
-/// through dates that nobody asked for.
+/// The three spin boxes count as moved once, with the whole date: on the way from one month to another the day would
+/// pass through dates that nobody asked for.
 void frmBio::goToReading(base::CivilDate date) {
     if (date == view().reading) return;
     view().manualDate = true;
@@ -289,7 +264,7 @@ void frmBio::hideEvent(QHideEvent* event) {
 }
 
 void frmBio::pickProfile() {
-    const std::string name = mainName().toStdString();
+    const std::string name = profileMainName().toStdString();
     if (!biorhythm::pickProfile(desktop().files, options(), biorhythms_.bio, view(), name))
         return ui_->ComboProfiles->setCurrentIndex(shownProfile_);
     shownProfile_ = ui_->ComboProfiles->currentIndex();
@@ -356,14 +331,14 @@ void frmBio::onMinimised(bool toSystray) {
 
 /// What was set stands in the files as soon as the window is out of sight: tip and alerts count with it.
 void frmBio::onHidden() {
-    saveBioState(desktop().files, biorhythms_.bio, view().birth, view().target);
+    saveBioState(desktop().files, biorhythms_.bio, view().birth, view().finalDate);
 }
 
 void frmBio::onUnload() {
     unloadBeside();
     biorhythms_.alerts.welcomeShown = false;
     biorhythms_.alerts.manualAlert = false;
-    saveBioState(desktop().files, biorhythms_.bio, view().birth, view().target);
+    saveBioState(desktop().files, biorhythms_.bio, view().birth, view().finalDate);
 }
 
 /// The windows that work on this one go with it. While they stood the next module could not add its icon; a hidden

@@ -19,7 +19,7 @@ namespace velmoriax::biorhythm {
 class DateSpinBoxes;
 class ReadingArrows;
 
-/// The Biorhythm view: birth, time of birth and date of reading on steppers; the four cycles as numbers, bars and
+/// The Biorhythm view: birth, time of birth and date of reading on spin boxes; the four cycles as numbers, bars and
 /// chart.
 class frmBio : public shell::ModuleWindow, public ProfileView {
     Q_OBJECT
@@ -33,7 +33,7 @@ public:
     /// Computes everything and shows it, the chart included.
     void calcBio();
 
-    QString mainName() const override;
+    QString profileMainName() const override;
     QStringList profileNames() const override;
     void listProfilesAnew() override;
     void showSecondName(const QString& name) override;
@@ -53,7 +53,7 @@ private:
     BioViewState& view() const { return biorhythms_.view; }
 
     void setUpControls();
-    void connectSteppers();
+    void connectDateBoxes();
     void connectTimeOfBirth();
     void connectReading();
     void connectProfiles();

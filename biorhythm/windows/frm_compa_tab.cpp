@@ -35,7 +35,7 @@ ProfileView& FrmCompaTab::view() const {
 void FrmCompaTab::load() {
     state().noTrayAdd = true;
     centreOverModule();
-    ui_->LabelProMain->setText(QStringLiteral("Main profile: ") + view().mainName());
+    ui_->LabelProMain->setText(QStringLiteral("Main profile: ") + view().profileMainName());
     {
         const QSignalBlocker quiet(ui_->ListProfiles);
         ui_->ListProfiles->addItems(view().profileNames());
@@ -63,7 +63,7 @@ QString FrmCompaTab::chosenName() const {
 }
 
 bool FrmCompaTab::mainIsChosen() const {
-    return chosenName() == view().mainName();
+    return chosenName() == view().profileMainName();
 }
 
 /// A person is known by name: another one of the main profile's name is taken for the same.
@@ -111,7 +111,7 @@ void FrmCompaTab::turnTo(int tab) {
         close();
         return;
     }
-    const std::string main = view().mainName().toStdString();
+    const std::string main = view().profileMainName().toStdString();
     const SecondProfile& second = biorhythms_.second;
     const base::CivilTime clock = base::civilTimeOf(desktop().clock.now());
     ui_->LabelInfo->setText(widgets::qtText(

@@ -17,7 +17,7 @@ public:
     virtual ~ProfileView() = default;
 
     /// The text of the profile list: the main profile's name.
-    virtual QString mainName() const = 0;
+    virtual QString profileMainName() const = 0;
     virtual QStringList profileNames() const = 0;
 
     /// Fills the profile list anew after the file was edited. The person shown stays.

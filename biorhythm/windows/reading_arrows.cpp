@@ -39,9 +39,13 @@ void ReadingArrows::release(bool back) {
     if (wasHeld && !hasStepped_) Q_EMIT stepped(back);
 }
 
+bool ReadingArrows::arrowLeftDown() const {
+    return left_.isDown();
+}
+
 void ReadingArrows::repeat() {
     hasStepped_ = true;
-    Q_EMIT stepped(left_.isDown());
+    Q_EMIT stepped(arrowLeftDown());
 }
 
 bool ReadingArrows::eventFilter(QObject* watched, QEvent* event) {

@@ -29,6 +29,7 @@ private:
     void hold();
     void release(bool back);
     void repeat();
+    bool arrowLeftDown() const; ///< the left one is held; else, while the timer runs, the right one
 
     QToolButton& left_;
     QTimer TimerButton_{this};

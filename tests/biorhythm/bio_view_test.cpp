@@ -2,7 +2,7 @@
 #include "biorhythm/bio_chart.h"
 #include "biorhythm/bio_view.h"
 #include "biorhythm/profile_files.h"
-#include "biorhythm/stepper_dates.h"
+#include "biorhythm/view_dates.h"
 #include "support/fakes.h"
 
 namespace velmoriax::biorhythm {
@@ -12,10 +12,10 @@ const base::DateValue evening = base::dateValueOf({2026, 6, 20}, {18, 30, 0});
 constexpr base::CivilMoment birth{{1980, 3, 15}, {7, 45, 0}};
 
 TEST(StepperDates, CountEveryCenturyYearAsACommonOne) {
-    EXPECT_EQ(stepperDays(2024, 2), 29);
-    EXPECT_EQ(stepperDays(2000, 2), 28);
-    EXPECT_EQ(onSteppers({1850, 3, 31}), (base::CivilDate{1900, 3, 31}));
-    EXPECT_EQ(onSteppers({2000, 2, 29}), (base::CivilDate{2000, 2, 28}));
+    EXPECT_EQ(daysInViewMonth(2024, 2), 29);
+    EXPECT_EQ(daysInViewMonth(2000, 2), 28);
+    EXPECT_EQ(withinView({1850, 3, 31}), (base::CivilDate{1900, 3, 31}));
+    EXPECT_EQ(withinView({2000, 2, 29}), (base::CivilDate{2000, 2, 28}));
 }
 
 TEST(StepperDates, StepThroughTheirWholeRangeAndBack) {
@@ -78,7 +78,7 @@ TEST(BioView, PicksAPersonOfTheListForGood) {
     EXPECT_EQ(files.at("\\bio.dat"), "31,1,1980\r\n") << "the day as stored";
     EXPECT_EQ(options.option(shell::key::perfilBio), "Ann");
     EXPECT_TRUE(pickProfile(files, options, state, view, "Leap"));
-    EXPECT_EQ(view.birth.date, (base::CivilDate{2000, 2, 28})) << "what the steppers can hold";
+    EXPECT_EQ(view.birth.date, (base::CivilDate{2000, 2, 28})) << "what the spin boxes can hold";
 }
 
 TEST(BioChart, HasTheReadingInItsFifteenthRow) {

@@ -92,7 +92,7 @@ TEST_F(ProfileStore, EditsARecordOntoTheEndOfTheList) {
     EXPECT_EQ(list(), "Bea,May/1/1990,12:30\r\nAnn,March/15/1980,7:5\r\n");
     EXPECT_EQ(editedProfile("Bea,May/1/1990,12:30").time.minute, 30);
     EXPECT_EQ(editedProfile(annsLine).time.minute, 45);
-    EXPECT_EQ(editedProfile("Bea,May/1/1990,99:99").time, (base::CivilTime{23, 59, 0})) << "the steppers' bounds";
+    EXPECT_EQ(editedProfile("Bea,May/1/1990,99:99").time, (base::CivilTime{23, 59, 0})) << "the spin boxes' bounds";
     EXPECT_EQ(editedProfile("Smith, John,March/15/1980,7:45").date, std::nullopt);
 }
 

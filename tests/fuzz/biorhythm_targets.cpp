@@ -69,7 +69,7 @@ void profileList(std::string_view input) {
         if (birth) law(base::isValid(birth->date) && base::isValid(birth->time), "a birth is a moment of the calendar");
         if (birth) law(biorhythm::findProfile(files, fields.name).has_value(), "who can be read is found");
         const auto edited = biorhythm::editedProfile(line);
-        law(edited.name == fields.name && base::isValid(edited.time), "the editor's steppers hold the time");
+        law(edited.name == fields.name && base::isValid(edited.time), "the editor's spin boxes hold the time");
         if (birth) law(edited.date == birth->date, "the editor reads the same date");
     }
     law(biorhythm::profileNames(files).size() == biorhythm::profileLines(files).size(), "a name a line");

@@ -161,7 +161,7 @@ TEST_F(BioViewStart, ListsAThousandProfilesAndTellsItsRowsInWords) {
                                  "Dibujar secundario=1\r\n";
     frmBio& view = open();
     EXPECT_EQ(view.profileNames().size(), 1000);
-    EXPECT_EQ(view.mainName(), "Person 777");
+    EXPECT_EQ(view.profileMainName(), "Person 777");
     EXPECT_EQ(textOf(view, "TextSecondProf"), "Person 3");
     EXPECT_TRUE(shown(view, "TextSecondProf"));
     auto& plot = control<BioPlot>(view, "MSChart1");

@@ -71,7 +71,7 @@ TEST_F(Profiles, DeletionsReachTheViewThroughExitAlone) {
     QWidget& again = beside("XPButtonEdit", "FrmProfiles");
     press(again, "CmdExit");
     EXPECT_EQ(view.profileNames(), QStringList("Bob")) << "the line that holds Ann's went as well";
-    EXPECT_EQ(view.mainName(), "Bob") << "the stored name is gone: the last entry stands";
+    EXPECT_EQ(view.profileMainName(), "Bob") << "the stored name is gone: the last entry stands";
     EXPECT_EQ(birthShown(view), "15 March 1980");
     EXPECT_EQ(option("Perfil-Bio"), "Ann");
     EXPECT_FALSE(state.noTrayAdd || windows.loaded("FrmProfiles"));
