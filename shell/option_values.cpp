@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/option_values.h"
 
+#include "shell/options.h"
+
 #include <algorithm>
 
 namespace velmoriax::shell {
@@ -25,7 +27,7 @@ std::string codeOf(std::string_view caption, std::string_view AlertLevel::*colum
     return std::string(found == alertLevels.end() ? "maxi" : found->code);
 }
 
-constexpr std::array<std::string_view, 3> decks{"marsellaone", "marsellaclass", "oldones"};
+constexpr std::array<std::string_view, 3> decks{word::marsellaone, word::marsellaclass, word::oldones};
 
 } // namespace
 
@@ -38,7 +40,7 @@ std::string alertLevelOfSpanishCaption(std::string_view caption) {
 }
 
 std::string normalisedMinimize(std::string_view value) {
-    return value.empty() || value == "systray" ? "systray" : "toolbar";
+    return std::string(value.empty() || value == word::systray ? word::systray : word::toolbar);
 }
 
 std::string normalisedDeck(std::string_view value, std::string_view previous) {

@@ -31,26 +31,28 @@ using O = Option;
 using G = Group;
 
 const std::array<Row, optionCount> rows{{
-    {O::OptReal, "OptReal", G::throws, &Dialog::GuardarIni, "real", "", nullptr, &Dialog::setThrow},
-    {O::OptObj, "OptObj", G::throws, &Dialog::GuardarIni, "objetiva", "", nullptr, &Dialog::setThrow},
+    {O::OptReal, "OptReal", G::throws, &Dialog::GuardarIni, word::real, "", nullptr, &Dialog::setThrow},
+    {O::OptObj, "OptObj", G::throws, &Dialog::GuardarIni, word::objetiva, "", nullptr, &Dialog::setThrow},
     {O::CheckWin, "CheckWin", G::none, &Dialog::GuardarIniWin, "True", "False", nullptr,
      &Dialog::writeOrEraseAutostart},
     {O::CheckMini, "CheckMini", G::none, &Dialog::GuardarIniMini, "True", "False"},
-    {O::CheckTooltips, "CheckTooltips", G::none, &Dialog::GuardarTooltips, "ToolTips off", "ToolTips on", &H::tooltips,
-     &Dialog::enableTooltipControls},
-    {O::OptionPersonal, "OptionPersonal", G::tooltip, nullptr, "personal", "", nullptr, &Dialog::testTaskBar},
-    {O::OptionXP, "OptionXP", G::tooltip, &Dialog::GuardarEstiloTooltips, "windows xp", "", &H::estiloTooltips,
+    {O::CheckTooltips, "CheckTooltips", G::none, &Dialog::GuardarTooltips, word::tooltipsOff, word::tooltipsOn,
+     &H::tooltips, &Dialog::enableTooltipControls},
+    {O::OptionPersonal, "OptionPersonal", G::tooltip, nullptr, word::personal, "", nullptr, &Dialog::testTaskBar},
+    {O::OptionXP, "OptionXP", G::tooltip, &Dialog::GuardarEstiloTooltips, word::windowsXp, "", &H::estiloTooltips,
      &Dialog::allowSilentMode},
-    {O::OptionNorte, "OptionNorte", G::hemisphere, &Dialog::GuardarHemisferio, "Norte", "", &H::hemisferio},
-    {O::OptionSur, "OptionSur", G::hemisphere, &Dialog::GuardarHemisferio, "Sur", "", &H::hemisferio},
-    {O::OptionBeauty, "OptionBeauty", G::cards, &Dialog::GuardarTipocarta, "marsellaone", "", &H::tipocartas},
-    {O::OptionClassic, "OptionClassic", G::cards, &Dialog::GuardarTipocarta, "marsellaclass", "", &H::tipocartas},
-    {O::OptionFree, "OptionFree", G::cards, &Dialog::GuardarTipocarta, "oldones", "", &H::tipocartas},
-    {O::CheckNoSound, "CheckNoSound", G::none, &Dialog::GuardarNoSoundtips, "mudo", "nomudo", &H::modoSilencioso},
-    {O::CheckCardDayMute, "CheckCardDayMute", G::none, &Dialog::GuardarMutecod, "nomuted", "muted", &H::muteCod},
-    {O::CheckBgSound, "CheckBgSound", G::none, &Dialog::GuardarBgSound, "SiBgSound", "NoBgSound", &H::bgSound},
-    {O::OptionSystray, "OptionSystray", G::minimize, &Dialog::GuardarMinimizar, "systray", "", &H::minimizeTo},
-    {O::OptionToolbar, "OptionToolbar", G::minimize, &Dialog::GuardarMinimizar, "toolbar", "", &H::minimizeTo},
+    {O::OptionNorte, "OptionNorte", G::hemisphere, &Dialog::GuardarHemisferio, word::norte, "", &H::hemisferio},
+    {O::OptionSur, "OptionSur", G::hemisphere, &Dialog::GuardarHemisferio, word::sur, "", &H::hemisferio},
+    {O::OptionBeauty, "OptionBeauty", G::cards, &Dialog::GuardarTipocarta, word::marsellaone, "", &H::tipocartas},
+    {O::OptionClassic, "OptionClassic", G::cards, &Dialog::GuardarTipocarta, word::marsellaclass, "", &H::tipocartas},
+    {O::OptionFree, "OptionFree", G::cards, &Dialog::GuardarTipocarta, word::oldones, "", &H::tipocartas},
+    {O::CheckNoSound, "CheckNoSound", G::none, &Dialog::GuardarNoSoundtips, word::mudo, word::nomudo,
+     &H::modoSilencioso},
+    {O::CheckCardDayMute, "CheckCardDayMute", G::none, &Dialog::GuardarMutecod, word::nomuted, word::muted,
+     &H::muteCod},
+    {O::CheckBgSound, "CheckBgSound", G::none, &Dialog::GuardarBgSound, word::siBgSound, word::noBgSound, &H::bgSound},
+    {O::OptionSystray, "OptionSystray", G::minimize, &Dialog::GuardarMinimizar, word::systray, "", &H::minimizeTo},
+    {O::OptionToolbar, "OptionToolbar", G::minimize, &Dialog::GuardarMinimizar, word::toolbar, "", &H::minimizeTo},
 }};
 
 const Row& rowOf(Option option) {
@@ -92,7 +94,7 @@ void OptionsDialog::LeerIni(const std::string& lpFileName, std::string_view lpAp
     setCheck(O::CheckMini, read(key::iniciarMinimizado) == "True");
     setEntry(OptionList::Combolist, entryOf(modules_, read(key::moduloInicial), &ModuleInfo::initialText));
     setEntry(OptionList::ComboBio, entryOf(alertLevels, read(key::nivelAlertas), &AlertLevel::caption));
-    setCheck(O::CheckTooltips, read(key::desactivarTooltips) == "ToolTips off");
+    setCheck(O::CheckTooltips, read(key::desactivarTooltips) == word::tooltipsOff);
     // Only a style that the file spells out leaves the silent mode open. The classic style that stands for a missing
     // one does not: it opens with a click on it.
     const std::string style = read(key::estiloTooltips);
@@ -100,12 +102,12 @@ void OptionsDialog::LeerIni(const std::string& lpFileName, std::string_view lpAp
     state_[O::CheckNoSound].enabled = style == rowOf(O::OptionXP).onValue;
     setChosen(buttonOf(read(key::hemisferio), O::OptionNorte));
     setChosen(buttonOf(read(key::tipocartas), O::OptionBeauty));
-    setCheck(O::CheckNoSound, read(key::modoSilencioso) == "mudo");
+    setCheck(O::CheckNoSound, read(key::modoSilencioso) == word::mudo);
     // The midnight card is on unless the file says otherwise. Its holder is set here too, since a box that stays
     // unchecked runs no handler.
-    setCheck(O::CheckCardDayMute, read(key::muteCod) != "muted");
-    holders().muteCod = state_[O::CheckCardDayMute].on ? "nomuted" : "muted";
-    setCheck(O::CheckBgSound, read(key::backgroundSound) == "SiBgSound");
+    setCheck(O::CheckCardDayMute, read(key::muteCod) != word::muted);
+    holders().muteCod = state_[O::CheckCardDayMute].on ? word::nomuted : word::muted;
+    setCheck(O::CheckBgSound, read(key::backgroundSound) == word::siBgSound);
     setChosen(buttonOf(read(key::minimizar), O::OptionSystray));
 }
 
@@ -176,8 +178,8 @@ void OptionsDialog::testTaskBar() {
     bool& atBottom = shellState_.taskBarAtBottom;
     atBottom = shellState_.taskBarLocation == platform::TaskBarPosition::bottomEdge;
     if (atBottom) {
-        GuardarEstiloTooltips("personal");
-        holders().estiloTooltips = "personal";
+        GuardarEstiloTooltips(word::personal);
+        holders().estiloTooltips = word::personal;
         state_[O::CheckNoSound].enabled = false;
         return;
     }

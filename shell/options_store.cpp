@@ -52,16 +52,13 @@ void OptionsStore::readAtStart() {
     holders.tipocartas = normalisedDeck(leerTipocartas(), holders.tipocartas);
 }
 
-void OptionsStore::readAtModuleLoad() {
-    holders.tooltips = orDefault(leerTooltips(), "ToolTips on");
-    holders.modoSilencioso = orDefault(leerModoSilencioso(), "nomudo");
-    holders.estiloTooltips = leerEstiloTooltips() == "personal" ? "personal" : "windows xp";
-    holders.bgSound = orDefault(leerBgSound(), "NoBgSound");
-}
-
-void OptionsStore::readAtCardOfDayLoad() {
-    holders.muteCod = orDefault(leerMutecod(), "nomuted");
-    holders.hemisferio = leerHemisferio() == "Sur" ? "Sur" : "Norte";
+void OptionsStore::readRows(std::span<const OptionRow> rows) {
+    for (const OptionRow& row : rows) {
+        std::string& holder = holders.*row.holder;
+        readInto(holder, row.key);
+        const bool refused = !row.other.empty() && holder != row.other;
+        if (holder.empty() || refused) holder = row.standard;
+    }
 }
 
 const std::string& OptionsStore::readInto(std::string& holder, std::string_view key) {

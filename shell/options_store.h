@@ -2,67 +2,15 @@
 #pragma once
 
 #include "platform/files.h"
+#include "shell/options.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
 /// The options file: the only configuration. There is no settings object in memory: each key is read when it is needed
 /// and written when it is changed, and a few holders keep what was read last.
 namespace velmoriax::shell {
-
-inline constexpr std::string_view optionsSection = "opciones";
-inline constexpr std::string_view positionSection = "Posición";
-
-namespace key {
-inline constexpr std::string_view moduloInicial = "Módulo Inicial";
-inline constexpr std::string_view iniciarMinimizado = "Iniciar Minimizado";
-inline constexpr std::string_view iniciarConWindows = "Iniciar con Windows";
-inline constexpr std::string_view minimizar = "Minimizar";
-inline constexpr std::string_view tipocartas = "tipocartas";
-inline constexpr std::string_view nivelAlertas = "Nivel Alertas";
-inline constexpr std::string_view desactivarTooltips = "Desactivar Tooltips";
-inline constexpr std::string_view estiloTooltips = "Estilo Tooltips";
-inline constexpr std::string_view modoSilencioso = "Modo Silencioso";
-inline constexpr std::string_view muteCod = "Mute cod";
-inline constexpr std::string_view backgroundSound = "Background Sound";
-inline constexpr std::string_view hemisferio = "Hemisferio";
-inline constexpr std::string_view tirada = "Tirada";
-inline constexpr std::string_view logResNumbers = "LogResNumbers";
-inline constexpr std::string_view logResNames = "LogResNames";
-inline constexpr std::string_view logResOracle = "LogResOracle";
-inline constexpr std::string_view soundAmbient = "SoundAmbient";
-inline constexpr std::string_view songAmbient = "SongAmbient";
-inline constexpr std::string_view perfilBio = "Perfil-Bio";
-inline constexpr std::string_view dibujarSecundario = "Dibujar secundario";
-inline constexpr std::string_view nombreSecundario = "Nombre secundario";
-inline constexpr std::string_view positionLeft = "Velmoriaxcod_Left";
-inline constexpr std::string_view positionTop = "Velmoriaxcod_Top";
-inline constexpr std::string_view positionWidth = "Velmoriaxcod_Width";
-inline constexpr std::string_view positionHeight = "Velmoriaxcod_Height";
-} // namespace key
-
-/// What each reader read last, and the normalised forms that the running program works with.
-struct OptionHolders {
-    std::string moduloInicial;
-    std::string iniciarMinimizado;
-    std::string minimizar;
-    std::string tipocartasRead;
-    std::string nivelAlertas;
-    std::string tooltips;       ///< "ToolTips on" or "ToolTips off" once a module has loaded
-    std::string modoSilencioso; ///< "mudo" or "nomudo"
-    std::string muteCod;        ///< "muted" or "nomuted"
-    std::string estiloTooltips; ///< "personal" or "windows xp"
-    std::string hemisferio;     ///< "Norte" or "Sur"
-    std::string bgSound;        ///< "SiBgSound" or "NoBgSound"
-    bool realThrow = false;     ///< whether the oracle's cards can fall inverted
-    std::string profileMainName;
-    std::string dibujarSecundario;
-    std::string nombreSecundario;
-
-    std::string alertLevel; ///< one of the nine level codes
-    std::string minimizeTo; ///< "systray" or "toolbar"
-    std::string tipocartas; ///< the deck in use; empty when the file names an unknown one
-};
 
 /// Access to the options file and the holders. Texts are UTF-8 here and Windows-1252 in the file. Nothing is reported:
 /// an unreadable file reads as empty, a write that fails leaves the file as it was.
@@ -107,13 +55,14 @@ public:
     void readAtStart();
 
     /// What each module reads when it loads.
-    void readAtModuleLoad();
+    void readAtModuleLoad() { readRows(moduleOptions); }
 
     /// What the Card of the Day alone reads when it loads.
-    void readAtCardOfDayLoad();
+    void readAtCardOfDayLoad() { readRows(cardOfDayOptions); }
 
 private:
     const std::string& readInto(std::string& holder, std::string_view key);
+    void readRows(std::span<const OptionRow> rows);
 
     platform::Files& files_;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/tip_watch.h"
 
+#include "shell/options.h"
+
 #include <algorithm>
 
 namespace velmoriax::shell {
@@ -8,16 +10,14 @@ namespace velmoriax::shell {
 namespace {
 
 constexpr std::int16_t restTicks = 5;
-constexpr std::string_view tipsOn = "ToolTips on";
-constexpr std::string_view tipsOff = "ToolTips off";
 
 } // namespace
 
 TipWatch::MoveAction TipWatch::pointerMoved(std::string_view tooltips, bool mayStart, const ShellState& state) {
     if (mayStart) watching_ = true;
     if (state.trayBusy) return MoveAction::none;
-    if (tooltips == tipsOn) return MoveAction::measure;
-    return tooltips == tipsOff ? MoveAction::showName : MoveAction::none;
+    if (tooltips == word::tooltipsOn) return MoveAction::measure;
+    return tooltips == word::tooltipsOff ? MoveAction::showName : MoveAction::none;
 }
 
 TipWatch::TickAction TipWatch::tick(std::string_view tooltips, bool pointerOnIcon, ShellState& state) {
@@ -42,7 +42,7 @@ void TipWatch::clicked(ShellState& state) {
 }
 
 bool TipWatch::wantsTicks(std::string_view tooltips) const {
-    return watching_ && tooltips != tipsOff;
+    return watching_ && tooltips != word::tooltipsOff;
 }
 
 } // namespace velmoriax::shell

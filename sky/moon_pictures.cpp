@@ -2,6 +2,7 @@
 #include "sky/moon_pictures.h"
 
 #include "base/rounding.h"
+#include "shell/options.h"
 
 namespace velmoriax::sky {
 
@@ -28,7 +29,7 @@ std::int16_t halfPhaseAngle(float angle) {
 }
 
 bool turnsMoonPicture(std::string_view hemisferio) {
-    return hemisferio == "Sur";
+    return hemisferio == shell::word::sur;
 }
 
 base::PictureChoice moonPicture(const platform::Files& files, const std::string& name, std::string_view hemisferio) {

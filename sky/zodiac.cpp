@@ -4,6 +4,7 @@
 #include "base/date_text.h"
 #include "base/run_time_error.h"
 #include "base/windows1252.h"
+#include "shell/options.h"
 #include "sky/ingress_search.h"
 #include "sky/time_zone_shift.h"
 #include "sky/zodiac_tables.h"
@@ -117,7 +118,7 @@ const SignReading& signoZod(const SignSources& sources, base::DateValue now, std
                               .day = base::civilDateOf(now),
                               .tipNamesSign = true,
                               .changeHoldsDate = false,
-                              .north = hemisferio == "Norte"};
+                              .north = hemisferio == shell::word::norte};
     searchSign(sources.files, search, state.cardOfDaySign, state);
     return state.cardOfDaySign;
 }
@@ -128,7 +129,7 @@ const SignReading& signoZodCalendar(const platform::Files& files, base::CivilDat
                               .day = date,
                               .tipNamesSign = false,
                               .changeHoldsDate = true,
-                              .north = hemisferio == "Norte" || hemisferio.empty()};
+                              .north = hemisferio == shell::word::norte || hemisferio.empty()};
     searchSign(files, search, state.anotherDaySign, state);
     return state.anotherDaySign;
 }

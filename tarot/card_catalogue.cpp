@@ -3,6 +3,7 @@
 
 #include "base/run_time_error.h"
 #include "platform/program_paths.h"
+#include "shell/options.h"
 
 #include <algorithm>
 
@@ -49,9 +50,9 @@ struct DeckDirectory {
     std::string_view directory;
 };
 constexpr std::array<DeckDirectory, 3> deckDirectories{{
-    {"marsellaone", "\\imagenes\\"},
-    {"marsellaclass", "\\imagenes2\\"},
-    {"oldones", "\\imagenes3\\"},
+    {shell::word::marsellaone, "\\imagenes\\"},
+    {shell::word::marsellaclass, "\\imagenes2\\"},
+    {shell::word::oldones, "\\imagenes3\\"},
 }};
 
 [[noreturn]] void outsideTheTables(int number) {

@@ -4,6 +4,7 @@
 #include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/text_lines.h"
+#include "shell/options.h"
 
 namespace velmoriax::tarot {
 
@@ -39,7 +40,7 @@ std::string chosenDateLine(base::CivilDate date) {
 
 MidnightStep midnightStep(std::string_view clockText, std::string_view muteCod, bool refreshingView) {
     const std::string_view time = base::trimmed(clockText);
-    if (time == newDayTime && muteCod == "nomuted") return MidnightStep::showNewDay;
+    if (time == newDayTime && muteCod == shell::word::nomuted) return MidnightStep::showNewDay;
     if (time == hideTime && refreshingView) return MidnightStep::hideAgain;
     return MidnightStep::none;
 }

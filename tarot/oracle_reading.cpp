@@ -4,6 +4,7 @@
 #include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/rounding.h"
+#include "shell/options.h"
 #include "tarot/letter_values.h"
 
 #include <cmath>
@@ -44,7 +45,7 @@ std::int16_t sumdate(base::CivilDate date) {
 
 void readThrowOption(shell::OptionsStore& options) {
     const std::string tirada = options.option(shell::key::tirada);
-    options.holders.realThrow = !tirada.empty() && tirada != "objetiva";
+    options.holders.realThrow = !tirada.empty() && tirada != shell::word::objetiva;
 }
 
 std::optional<SuitReading> drawSuitCard(Suit suit, std::string_view question, OracleState& state,

@@ -130,7 +130,7 @@ void CtxSysTray::tickTooltip() {
 }
 
 void CtxSysTray::raiseTip() {
-    if (context_.options.holders.estiloTooltips != "personal") return showTrayBalloon();
+    if (!context_.options.holders.personalTooltips()) return showTrayBalloon();
     UpdateIcon("");
     if (!context_.state.viewLoading) context_.windows.touch("FrmToolTip");
 }
@@ -143,7 +143,7 @@ void CtxSysTray::takeTipAway() {
 }
 
 void CtxSysTray::showTrayBalloon() {
-    const bool silent = context_.options.holders.modoSilencioso == "mudo";
+    const bool silent = context_.options.holders.silentTooltips();
     const std::string lines = balloonTextNow();
     if (!added_) return; // events have run inside, a hand-over among them
     Popup(lines, programName, silent ? informationIcon | noSound : informationIcon);

@@ -64,7 +64,7 @@ private:
     void refreshTipText();
     void updateTimer();
     const std::string& tooltips() const { return context_.options.holders.tooltips; }
-    bool tooltipsOff() const { return tooltips() == "ToolTips off"; }
+    bool tooltipsOff() const { return context_.options.holders.tooltipsOff(); }
 
     WindowContext& context_;
     QMenu& popup_;

@@ -62,8 +62,7 @@ void ModuleWindow::load() {
 }
 
 void ModuleWindow::addTrayIcon() {
-    const bool tooltipsOff = options().holders.tooltips == "ToolTips off";
-    tray_.AddIconToSystray(tooltipsOff ? programName : std::string_view{});
+    tray_.AddIconToSystray(options().holders.tooltipsOff() ? programName : std::string_view{});
 }
 
 void ModuleWindow::decideShowing() {
@@ -157,8 +156,7 @@ void ModuleWindow::unload() {
 void ModuleWindow::closeOrUnload() {
     beforeClose();
     if (!unloadForReal_) return hideToTray();
-    const bool soundOn = options().holders.bgSound == "SiBgSound";
-    if (!state().closingAll && soundOn) desktop().sounds.playWav("boop.wav");
+    if (!state().closingAll && options().holders.moduleChangesSound()) desktop().sounds.playWav("boop.wav");
     unloadForReal_ = false;
     onUnload();
     hide();
@@ -191,7 +189,7 @@ void ModuleWindow::keyPressEvent(QKeyEvent* event) {
 void ModuleWindow::minimised() {
     if (!isLoaded() || !isMinimized()) return;
     // Without a tray the window stays on the taskbar, as with "toolbar".
-    const bool toSystray = options().holders.minimizeTo == "systray" && desktop().tray.reachable();
+    const bool toSystray = options().holders.minimisesToTray() && desktop().tray.reachable();
     if (toSystray) hide();
     onMinimised(toSystray);
 }
