@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "biorhythm/biorhythm_services.h"
 
+#include "base/run_time_error.h"
 #include "biorhythm/bio_gauge.h"
 #include "biorhythm/profile_files.h"
 
@@ -36,6 +37,17 @@ void BiorhythmServices::runAlerts() {
 std::string BiorhythmServices::tipLine(base::DateValue now) {
     biotip(desktop_.files, state_.bio, state_.alerts, now);
     return state_.alerts.bioTipText;
+}
+
+std::string BiorhythmServices::quietTipLine(base::DateValue now) {
+    BioState bio = state_.bio;
+    AlertState alerts = state_.alerts;
+    try {
+        biotip(desktop_.files, bio, alerts, now);
+    } catch (const base::RunTimeError&) {
+        // A file that was spoilt while the program runs ends it when something needs the file, and not by this line.
+    }
+    return alerts.bioTipText;
 }
 
 bool BiorhythmServices::loadBirth() {

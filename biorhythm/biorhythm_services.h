@@ -34,6 +34,7 @@ public:
     void runHalfHourly() override;
 
     std::string tipLine(base::DateValue now) override;
+    std::string quietTipLine(base::DateValue now) override;
 
     bool loadBirth() override;
     void setWelcome(const std::string& text) override { state_.alerts.alertText = text; }

@@ -140,7 +140,8 @@ void saveBirthTime(platform::Files& files, BioState& state, base::CivilTime time
 void createMissingProfileFiles(platform::Files& files) {
     for (const auto& [file, content] : firstContents) {
         const std::string path = pathOf(files, file);
-        if (files.read(path).status == Status::missing) files.replace(path, std::string(content));
+        // A folder that cannot be written is the cause, and not the file that is missing for it.
+        if (files.read(path).status == Status::missing) write(files, file, std::string(content));
     }
 }
 

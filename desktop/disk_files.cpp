@@ -166,7 +166,12 @@ std::string DiskFiles::applicationDirectory() const {
 }
 
 fs::path DiskFiles::native(const std::string& path) const {
-    return platform::fileSystemPath(path, applicationDirectory());
+    const fs::path mapped = platform::fileSystemPath(path, applicationDirectory());
+    const bool isOptions = mapped == folders_.user / "opciones.ini";
+    if (!isOptions || ::access(mapped.c_str(), F_OK) == 0) return mapped;
+    // A folder brought from another system may have the other spelling of the name.
+    const fs::path other = folders_.user / "Opciones.ini";
+    return ::access(other.c_str(), F_OK) == 0 ? other : mapped;
 }
 
 fs::path DiskFiles::readPath(const std::string& path) const {

@@ -9,13 +9,21 @@ namespace {
 
 constexpr std::string_view lineBreak = "\r\n";
 
-std::string joinedLines(TipLineSources sources, base::DateValue now) {
+using Line = std::string (TipLineSource::*)(base::DateValue);
+
+std::string joinedLines(TipLineSources sources, base::DateValue now, Line line) {
     std::string text;
     for (TipLineSource* source : sources) {
         if (!text.empty()) text += lineBreak;
-        text += source->tipLine(now);
+        text += (source->*line)(now);
     }
     return text;
+}
+
+std::string wholeText(base::CivilDate birth, base::DateValue now, TipLineSources sources, Line line) {
+    if (!tipKnowsBirthDate(birth)) return std::string(unsetBalloonText);
+    const std::string lines = joinedLines(sources, now, line);
+    return tipDateLine(base::civilDateOf(now)).append(lineBreak) + lines;
 }
 
 } // namespace
@@ -29,14 +37,16 @@ std::string tipDateLine(base::CivilDate today) {
 }
 
 std::string balloonText(base::CivilDate birth, base::DateValue now, TipLineSources sources) {
-    if (!tipKnowsBirthDate(birth)) return std::string(unsetBalloonText);
-    const std::string lines = joinedLines(sources, now);
-    return tipDateLine(base::civilDateOf(now)).append(lineBreak) + lines;
+    return wholeText(birth, now, sources, &TipLineSource::tipLine);
+}
+
+std::string panelText(base::CivilDate birth, base::DateValue now, TipLineSources sources) {
+    return wholeText(birth, now, sources, &TipLineSource::quietTipLine);
 }
 
 PersonalTip personalTip(base::CivilDate birth, base::DateValue now, TipLineSources sources) {
     if (!tipKnowsBirthDate(birth)) return {{}, std::string(unsetPersonalText)};
-    return {tipDateLine(base::civilDateOf(now)), joinedLines(sources, now)};
+    return {tipDateLine(base::civilDateOf(now)), joinedLines(sources, now, &TipLineSource::tipLine)};
 }
 
 } // namespace velmoriax::shell

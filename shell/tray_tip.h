@@ -34,6 +34,9 @@ using TipLineSources = std::span<TipLineSource* const>;
 /// only for a birth date that is set.
 std::string balloonText(base::CivilDate birth, base::DateValue now, TipLineSources sources);
 
+/// The same text for a panel that shows it by itself.
+std::string panelText(base::CivilDate birth, base::DateValue now, TipLineSources sources);
+
 /// The personal tooltip. An empty date leaves the label as it was designed.
 struct PersonalTip {
     std::string date;

@@ -173,7 +173,10 @@ void CtxSysTray::followTipText() {
 
 void CtxSysTray::refreshTipText() {
     if (!added_ || tooltipsOff() || context_.state.viewLoading) return;
-    const QString lines = QString::fromStdString(balloonTextNow()).remove(u'\r');
+    const Subsystems& subsystems = context_.subsystems;
+    const std::string text =
+        panelText(subsystems.alerts.birthDate(), context_.desktop.clock.now(), subsystems.tipLines);
+    const QString lines = widgets::qtText(text).remove(u'\r');
     if (added_) context_.desktop.tray.update(lines);
 }
 

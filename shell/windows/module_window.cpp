@@ -4,6 +4,7 @@
 #include "desktop/tray.h"
 #include "shell/tray_tip.h"
 #include "shell/windows/module_switcher.h"
+#include "shell/windows/window_place.h"
 #include "shell/windows/window_registry.h"
 #include "widgets/conversions.h"
 #include "widgets/focused_button.h"
@@ -21,22 +22,6 @@
 
 namespace velmoriax::shell {
 
-namespace {
-
-/// What a title bar takes of the screen's height, as far as can be known before the window manager has made one.
-constexpr int titleBarHeight = 32;
-
-/// Where a window stands that keeps no place of its own: the middle of the screen, wherever the last module stood, and
-/// no larger than what the panels leave free.
-void centre(QWidget& window) {
-    const QRect area = QGuiApplication::primaryScreen()->availableGeometry().adjusted(0, 0, 0, -titleBarHeight);
-    const QSize size = window.size().boundedTo(area.size());
-    window.resize(size);
-    window.move(area.center() - QPoint(size.width() / 2, size.height() / 2));
-}
-
-} // namespace
-
 ModuleWindow::ModuleWindow(WindowContext& context, const ModuleInfo& module) :
     context_(context), module_(module), tray_(context, iconMenu_) {
     setObjectName(widgets::qtText(module.windowName));
@@ -52,7 +37,7 @@ ModuleWindow* ModuleWindow::loadedIn(const WindowRegistry& windows) {
 void ModuleWindow::load() {
     ShellState& flags = state();
     flags.viewLoading = true;
-    if (!isRefresh()) centre(*this);
+    if (!isRefresh()) centreOnScreen(*this);
     beforeOptions();
     options().readAtModuleLoad();
     if (!isRefresh()) addTrayIcon();

@@ -2,30 +2,27 @@
 #include "shell/windows/window_place.h"
 
 #include <QGuiApplication>
+#include <QRegion>
 #include <QScreen>
 #include <QWidget>
 
 #include <algorithm>
-#include <limits>
 
 namespace velmoriax::shell {
 
 namespace {
 
-/// What has to be on a screen for a window to be caught with the mouse: a strip of its top as wide as a hand.
-constexpr int graspableWidth = 80;
-constexpr int graspableHeight = 24;
+/// What a title bar takes of the screen's height, as far as can be known before the window manager has made one.
+constexpr int titleBarHeight = 32;
 
-QRect graspableStrip(const QRect& window) {
-    return {window.topLeft(), QSize(std::max(window.width(), graspableWidth), graspableHeight)};
-}
+/// What has to be on a screen for a window to be caught with the mouse.
+constexpr QSize smallest(80, 24);
 
-bool isGraspable(const QRect& window) {
-    const auto screens = QGuiApplication::screens();
-    return std::ranges::any_of(screens, [&](const QScreen* screen) {
-        const QRect visible = screen->availableGeometry().intersected(graspableStrip(window));
-        return visible.width() >= graspableWidth && visible.height() >= graspableHeight / 2;
-    });
+/// What panels leave of the screens.
+QRegion workAreas() {
+    QRegion areas;
+    for (const QScreen* screen : QGuiApplication::screens()) areas += screen->availableGeometry();
+    return areas;
 }
 
 int distance(const QRect& area, QPoint point) {
@@ -35,19 +32,10 @@ int distance(const QRect& area, QPoint point) {
 }
 
 QRect nearestWorkArea(QPoint point) {
-    QRect nearest = QGuiApplication::primaryScreen()->availableGeometry();
-    int least = std::numeric_limits<int>::max();
-    for (const QScreen* screen : QGuiApplication::screens()) {
-        const int away = distance(screen->availableGeometry(), point);
-        if (away >= least) continue;
-        least = away;
-        nearest = screen->availableGeometry();
-    }
-    return nearest;
-}
-
-QRect broughtBack(const QRect& window) {
-    return isGraspable(window) ? window : onScreen(window);
+    const auto screens = QGuiApplication::screens();
+    const auto nearest = std::ranges::min_element(
+        screens, {}, [&](const QScreen* screen) { return distance(screen->availableGeometry(), point); });
+    return (*nearest)->availableGeometry();
 }
 
 /// Far beyond any screen, and far from the end of the toolkit's numbers.
@@ -58,18 +46,35 @@ int pixels(int twips) {
 
 } // namespace
 
-QRect onScreen(QRect window) {
+QRect fittedOnScreens(const QRect& window) {
+    const QRect whole(window.topLeft(), window.size().expandedTo(smallest) + QSize(0, titleBarHeight));
+    if (QRegion(whole).subtracted(workAreas()).isEmpty()) return window;
     const QRect area = nearestWorkArea(window.topLeft());
-    const int right = std::max(area.left(), area.right() - std::max(window.width(), graspableWidth) + 1);
-    const int bottom = std::max(area.top(), area.bottom() - std::max(window.height(), graspableHeight) + 1);
-    window.moveTo(std::clamp(window.left(), area.left(), right), std::clamp(window.top(), area.top(), bottom));
-    return window;
+    const QSize room = area.size() - QSize(0, titleBarHeight);
+    QRect fitted(window.topLeft(), window.size().boundedTo(room));
+    const QSize needed = fitted.size().expandedTo(smallest);
+    const int right = area.left() + room.width() - needed.width();
+    const int bottom = area.top() + room.height() - needed.height();
+    fitted.moveTo(std::clamp(fitted.left(), area.left(), right), std::clamp(fitted.top(), area.top(), bottom));
+    return fitted;
+}
+
+static void takePlace(QWidget& window, const QRect& wanted) {
+    const QRect fitted = fittedOnScreens(wanted);
+    window.resize(fitted.size());
+    window.move(fitted.topLeft());
 }
 
 void centreOver(QWidget& window, const QRect& place) {
     if (!window.testAttribute(Qt::WA_Resized))
         window.adjustSize(); // else it has not taken the size of its controls yet
-    window.move(onScreen({place.center() - window.rect().center(), window.size()}).topLeft());
+    takePlace(window, {place.center() - window.rect().center(), window.size()});
+}
+
+void centreOnScreen(QWidget& window) {
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry().adjusted(0, 0, 0, -titleBarHeight);
+    const QSize size = window.size().boundedTo(area.size());
+    takePlace(window, {area.center() - QPoint(size.width() / 2, size.height() / 2), size});
 }
 
 WindowPlace placeOf(const QWidget& window) {
@@ -79,9 +84,7 @@ WindowPlace placeOf(const QWidget& window) {
 
 void moveToPlace(QWidget& window, const WindowPlace& place) {
     const QSize size = QSize(pixels(place.width), pixels(place.height)).expandedTo(window.minimumSizeHint());
-    const QRect target = broughtBack({QPoint(pixels(place.left), pixels(place.top)), size});
-    window.resize(target.size());
-    window.move(target.topLeft());
+    takePlace(window, {QPoint(pixels(place.left), pixels(place.top)), size});
 }
 
 } // namespace velmoriax::shell

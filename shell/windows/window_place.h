@@ -12,13 +12,17 @@ namespace velmoriax::shell {
 /// The window's place and size in twips.
 WindowPlace placeOf(const QWidget& window);
 
-/// Moves and sizes a window. A place whose title bar would lie on no screen is brought back onto the nearest one.
+/// A rectangle as the screens can show it: as it is when all of it is on them, else moved onto the screen nearest to
+/// its corner, and no larger than what panels and a title bar leave there.
+QRect fittedOnScreens(const QRect& window);
+
+/// Moves and sizes a window to a stored place, fitted on the screens that there are now.
 void moveToPlace(QWidget& window, const WindowPlace& place);
 
-/// The rectangle moved so that all of it lies on the screen nearest to its corner, as far as it fits.
-QRect onScreen(QRect window);
-
-/// Puts a window that is not shown yet over the middle of a place, as far as it fits there on the screen.
+/// Puts a window that is not shown yet into the middle of a place, fitted on the screens.
 void centreOver(QWidget& window, const QRect& place);
+
+/// Puts a window into the middle of the primary screen, no larger than what panels leave there.
+void centreOnScreen(QWidget& window);
 
 } // namespace velmoriax::shell

@@ -253,7 +253,7 @@ void FrmCartaDia::showMoonDetails() {
     if (!details.isLoaded()) return; // the mouse has left the picture meanwhile
     details.adjustSize();
     const auto below = static_cast<int>(detailsBelowTop * details.height());
-    details.move(shell::onScreen({QPoint(x() - ui_->ImgLuna->width(), y() + below), details.size()}).topLeft());
+    details.move(shell::fittedOnScreens({QPoint(x() - ui_->ImgLuna->width(), y() + below), details.size()}).topLeft());
     details.show();
 }
 

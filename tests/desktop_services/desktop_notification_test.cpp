@@ -49,10 +49,16 @@ TEST(DesktopNotification, SpeaksTheProtocolAndFollowsTheAnswers) {
     QThread thread;
     FakeServer server;
     QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "server");
-    ASSERT_TRUE(bus.registerObject("/org/freedesktop/Notifications", &server, QDBusConnection::ExportAllContents));
-    ASSERT_TRUE(bus.registerService("org.freedesktop.Notifications"));
     server.moveToThread(&thread);
     thread.start();
+    // In its own thread, from which its signals are relayed.
+    QMetaObject::invokeMethod(
+        &server,
+        [&] {
+            bus.registerObject("/org/freedesktop/Notifications", &server, QDBusConnection::ExportAllContents);
+            bus.registerService("org.freedesktop.Notifications");
+        },
+        Qt::BlockingQueuedConnection);
 
     int chosen = 0;
     int closed = 0;

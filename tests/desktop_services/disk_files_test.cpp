@@ -101,5 +101,13 @@ TEST(Autostart, QuotesByTheDesktopEntryRules) {
     EXPECT_EQ(quotedExecArgument("/a$b\"c`d%e\\f"), "\"/a\\\\$b\\\\\"c\\\\`d%%e\\\\\\\\f\"");
 }
 
+TEST_F(DiskFilesTest, TheOptionsFileIsFoundUnderItsOtherSpellingAndStaysOne) {
+    write(user_ / "Opciones.ini", "[opciones]\r\n");
+    EXPECT_EQ(bytesAt("\\opciones.ini"), "[opciones]\r\n");
+    ASSERT_TRUE(files_.replace(at("\\Opciones.ini"), "new"));
+    EXPECT_EQ(bytesAt("\\opciones.ini"), "new");
+    EXPECT_FALSE(fs::exists(user_ / "opciones.ini")) << "no second file appears beside it";
+}
+
 } // namespace
 } // namespace velmoriax::desktop

@@ -53,5 +53,17 @@ TEST_F(Hub, LivesWithoutANotificationAndWithAClockThatIsSetBack) {
     EXPECT_EQ(modules.agent.LblTime, "3:00:04");
 }
 
+TEST_F(Hub, TheTextOfAPanelChangesNoFiguresAndSurvivesASpoiltFile) {
+    start();
+    modules.biorhythms.bio.lived = 1234;
+    const auto& lines = modules.subsystems.tipLines;
+    const std::string line = lines[2]->quietTipLine(clock.now());
+    EXPECT_TRUE(line.starts_with("Biorhythms (avg.): "));
+    EXPECT_EQ(modules.biorhythms.bio.lived, 1234);
+    files.at("\\bio.dat") = "rubbish";
+    EXPECT_NO_THROW(lines[2]->quietTipLine(clock.now()));
+    EXPECT_THROW(lines[2]->tipLine(clock.now()), base::RunTimeError);
+}
+
 } // namespace
 } // namespace velmoriax::tarot

@@ -113,7 +113,7 @@ TEST_F(ModuleWindowTest, ReturnPressesTheButtonThatHasTheFocus) {
     EXPECT_EQ(presses, 1);
 }
 
-TEST_F(ModuleWindowTest, APlaceOnNoScreenComesBackOntoTheNearest) {
+TEST_F(ModuleWindowTest, AStoredPlaceIsFittedOnTheScreensThereAre) {
     QWidget window;
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
     const WindowPlace onScreen{area.left() * 15 + 300, area.top() * 15 + 450, 6000, 4500};
@@ -122,8 +122,11 @@ TEST_F(ModuleWindowTest, APlaceOnNoScreenComesBackOntoTheNearest) {
     for (const WindowPlace& lost : {WindowPlace{900000, 600, 6000, 4500}, WindowPlace{-900000, -900000, 6000, 4500},
                                     WindowPlace{2147483647, 2147483647, 1, 1}, WindowPlace{450, -3000, 6000, 4500}}) {
         moveToPlace(window, lost);
-        EXPECT_TRUE(area.contains(window.pos())) << lost.left << ", " << lost.top;
+        EXPECT_TRUE(area.contains(QRect(window.pos(), window.size().expandedTo({80, 24}))))
+            << window.x() << ", " << window.y() << ", " << window.width() << ", " << window.height();
     }
+    moveToPlace(window, {0, 0, 60000, 45000});
+    EXPECT_TRUE(area.contains(window.geometry())) << "a place of a larger screen";
 }
 
 } // namespace
