@@ -5,7 +5,7 @@
 
 #include <benchmark/benchmark.h>
 
-// One tick of a held arrow is a calculation with its chart, and has 100 ms. An alert runs each half hour.
+// A step of a held arrow, one calculation with its chart, has 100 ms. An alert runs each half hour.
 namespace velmoriax::biorhythm {
 
 namespace {
@@ -40,12 +40,13 @@ BENCHMARK(calculation);
 void calculationWithChart(benchmark::State& bench) {
     BioState state;
     BioViewState view{false, birth, {}, {2030, 1, 1}, 0};
-    SecondProfile second{"Bea", true, {1990, 5, 1}, {8, 0, 0}, 0};
+    SecondProfile second{
+        .profileSecondName = "Bea", .drawSecondFlag = true, .secondDate = {1990, 5, 1}, .secondTime = {8, 0, 0}};
     const auto profiles = static_cast<std::size_t>(bench.range(0));
     for ([[maybe_unused]] const auto round : bench) {
         const base::DateValue now = laterMoment();
         benchmark::DoNotOptimize(calcBio(state, view, now));
-        benchmark::DoNotOptimize(mschart(state.lived, second, profiles, view.reading, base::civilTimeOf(now)));
+        benchmark::DoNotOptimize(mschart(state.lived, second, profiles, {view.reading, base::civilTimeOf(now)}));
     }
 }
 BENCHMARK(calculationWithChart)->Arg(1)->Arg(2)->ArgName("profiles");
@@ -56,11 +57,11 @@ void alert(benchmark::State& bench) {
     SilentSounds sounds;
     BioState state;
     setBirthDate(state, birth.date);
-    AlertState record;
-    record.manualAlert = bench.range(0) != 0;
+    AlertState alerts;
+    alerts.manualAlert = bench.range(0) != 0;
     for ([[maybe_unused]] const auto round : bench) {
         const base::DateValue now = laterMoment();
-        alertasbio(record, state, "maxi", {now, base::civilDateOf(now)}, {notification, sounds});
+        alertasbio(alerts, state, {"maxi", now, base::civilDateOf(now)}, {notification, sounds});
     }
     bench.SetLabel("aim: under 20 us");
 }

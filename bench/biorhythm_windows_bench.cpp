@@ -6,8 +6,8 @@
 
 #include <benchmark/benchmark.h>
 
-/// What a step of a held arrow costs: the calculation, the chart and its painting. It is to stay far below the 100 ms
-/// between two steps.
+/// The time of a step of a held arrow, with the calculation, the chart and its painting. It has to be far below the
+/// 100 ms between two steps.
 namespace velmoriax::biorhythm {
 namespace {
 
@@ -46,7 +46,7 @@ void loadAThousandProfiles(benchmark::State& state) {
     View bench(false);
     std::string& list = bench.files.at("\\perfiles.txt");
     for (int i = 0; i < 1000; ++i) list += "Person " + std::to_string(i) + ",March/15/1980,7:45\r\n";
-    for (auto step : state) bench.view->listProfilesAnew();
+    for (auto step : state) bench.view->reloadProfiles();
 }
 BENCHMARK(loadAThousandProfiles)->Unit(benchmark::kMillisecond);
 

@@ -16,7 +16,7 @@ namespace {
 struct Tip : test::DesktopFixture {
     Tip() {
         disk.replace(disk.applicationDirectory() + "\\bio.dat", "15,3,1980\r\n");
-        modules.biorhythmServices.loadAtStart();
+        modules.biorhythmsForShell.loadAtStart();
     }
     void TestBody() override {}
     using DesktopFixture::clock;

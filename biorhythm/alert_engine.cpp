@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "biorhythm/alert_engine.h"
 
+#include "base/text_lines.h"
 #include "biorhythm/cycle_engine.h"
 #include "biorhythm/profile_files.h"
 
@@ -10,25 +11,25 @@ namespace velmoriax::biorhythm {
 
 namespace {
 
-/// A piece of an alert's head.
-enum class Piece { none, phases, critical, crossing };
+/// A part of an alert's head.
+enum class Part { none, phases, critical, crossing };
 
-/// How a level builds the head. The orders differ from level to level, and the three medium levels set the bar (a line
-/// break) behind their first piece even when nothing follows it.
+/// How a level builds the head. The orders differ from level to level, and the three medium levels put the line break
+/// after their first part even when no other follows.
 struct HeadRule {
     std::string_view level;
-    std::array<Piece, 3> order;
-    bool barBeforeEmpty;
+    std::array<Part, 3> order;
+    bool breakBeforeEmpty;
 };
 constexpr std::array<HeadRule, 8> headRules{{
-    {"zero", {Piece::phases, Piece::critical, Piece::crossing}, false},
-    {"bas1", {Piece::phases}, false},
-    {"bas2", {Piece::critical}, false},
-    {"bas3", {Piece::crossing}, false},
-    {"med1", {Piece::critical, Piece::phases}, true},
-    {"med2", {Piece::critical, Piece::crossing}, true},
-    {"med3", {Piece::crossing, Piece::phases}, true},
-    {"maxi", {Piece::phases, Piece::critical, Piece::crossing}, false},
+    {"zero", {Part::phases, Part::critical, Part::crossing}, false},
+    {"bas1", {Part::phases}, false},
+    {"bas2", {Part::critical}, false},
+    {"bas3", {Part::crossing}, false},
+    {"med1", {Part::critical, Part::phases}, true},
+    {"med2", {Part::critical, Part::crossing}, true},
+    {"med3", {Part::crossing, Part::phases}, true},
+    {"maxi", {Part::phases, Part::critical, Part::crossing}, false},
 }};
 constexpr std::string_view levelOfLinesAlone = "solo";
 
@@ -40,15 +41,15 @@ const HeadRule* ruleOf(std::string_view level) {
     return rule == headRules.end() ? nullptr : rule;
 }
 
-std::string textOf(Piece piece, const AlertMessages& messages) {
-    switch (piece) {
-    case Piece::phases:
-        return joinAlertTexts(messages.phases);
-    case Piece::critical:
+std::string textOf(Part part, const AlertMessages& messages) {
+    switch (part) {
+    case Part::phases:
+        return phaseMessagesJoined(messages.phases);
+    case Part::critical:
         return std::string(messages.critical);
-    case Piece::crossing:
+    case Part::crossing:
         return std::string(messages.crossing);
-    case Piece::none:
+    case Part::none:
         break;
     }
     return {};
@@ -67,7 +68,7 @@ std::string alertTextOf(std::string_view level, const AlertMessages& messages, c
 }
 
 CyclesAround cyclesAround(const BioState& state) {
-    return {cyclesAt(state.lived - oneHour), state.cycle, state.cycleNext};
+    return {.cycleBack = cyclesAt(state.lived - oneHour), .cycle = state.cycle, .cycleNext = state.cycleNext};
 }
 
 void computeAt(BioState& state, base::CivilDate reading, base::CivilTime clock) {
@@ -88,51 +89,49 @@ std::string_view tipMark(shell::Trend trend) {
 } // namespace
 
 std::string helpLines() {
-    return "- Insert the birth date to calculate biorhythms" + std::string(lineBreak) +
-           "- In options you can change the level of alerts" + std::string(lineBreak) +
+    return "- Insert the birth date to calculate biorhythms" + std::string(base::lineEnd) +
+           "- In options you can change the level of alerts" + std::string(base::lineEnd) +
            "- Biorhythms will update every 30 minutes";
 }
 
-void biotip(const platform::Files& files, BioState& state, AlertState& record, base::DateValue now) {
+void biotip(const platform::Files& files, BioState& state, AlertState& alerts, base::DateValue now) {
     loadBirth(files, state);
     if (!birthDateIsSet(state)) return;
     const base::CivilMoment present = base::civilMomentOf(now);
     computeAt(state, present.date, present.time);
     const auto average = static_cast<float>(meanOf(state.cycle));
     const auto averageNext = static_cast<float>(meanOf(state.cycleNext));
-    record.bioTipText =
+    alerts.bioTipText =
         "Biorhythms (avg.): " + percentText(average) + std::string(tipMark(trendOf(average, averageNext)));
 }
 
-void alertasbio(AlertState& record, BioState& state, std::string_view alertLevel, const AlertMoment& moment,
-                const AlertOutlets& outlets) {
-    if (alertLevel == "zero" && !record.manualAlert) return;
+void alertasbio(AlertState& alerts, BioState& state, const AlertRun& run, const AlertOutlets& outlets) {
+    if (run.alertLevel == "zero" && !alerts.manualAlert) return;
     if (!birthDateIsSet(state)) return;
-    const base::CivilMoment present = base::civilMomentOf(moment.now);
-    computeAt(state, record.manualAlert ? moment.viewReading : present.date, present.time);
+    const base::CivilMoment present = base::civilMomentOf(run.now);
+    computeAt(state, alerts.manualAlert ? run.viewReading : present.date, present.time);
     const AlertMessages messages = messagesOf(cyclesAround(state));
-    const std::string key = alertKey(alertLevel, messages);
-    const bool opens = alertOpens(record, alertLevel, key);
-    // Kept before the slide, which lets events run: a run inside it is not to tell the same once more.
-    if (!record.manualAlert) record.lastAlertKey = key;
-    if (opens) openNotification(alertTextOf(alertLevel, messages, state, record.alertText), outlets);
-    record.alertText.clear();
+    const std::string key = alertKey(run.alertLevel, messages);
+    const bool opens = alertOpens(alerts, run.alertLevel, key);
+    // Kept before the slide: it processes events, and a run among them must not show the same alert again.
+    if (!alerts.manualAlert) alerts.lastAlertKey = key;
+    if (opens) openNotification(alertTextOf(run.alertLevel, messages, state, alerts.alertText), outlets);
+    alerts.alertText.clear();
 }
 
-void alertByHand(AlertState& record, BioState& state, std::string_view alertLevel, const AlertMoment& moment,
-                 const AlertOutlets& outlets) {
-    record.manualAlert = true;
-    if (birthDateIsSet(state)) return alertasbio(record, state, alertLevel, moment, outlets);
-    showHelpLines(record, outlets);
+void alertByHand(AlertState& alerts, BioState& state, const AlertRun& run, const AlertOutlets& outlets) {
+    alerts.manualAlert = true;
+    if (birthDateIsSet(state)) return alertasbio(alerts, state, run, outlets);
+    showHelpLines(alerts, outlets);
 }
 
-bool helpIsDue(const AlertState& record, const BioState& state) {
-    return !record.welcomeShown && !record.manualAlert && !birthDateIsSet(state);
+bool helpIsDue(const AlertState& alerts, const BioState& state) {
+    return !alerts.welcomeShown && !alerts.manualAlert && !birthDateIsSet(state);
 }
 
-void showHelpLines(AlertState& record, const AlertOutlets& outlets) {
-    record.alertText = helpLines();
-    record.welcomeShown = true;
+void showHelpLines(AlertState& alerts, const AlertOutlets& outlets) {
+    alerts.alertText = helpLines();
+    alerts.welcomeShown = true;
     outlets.notification.slideUp(helpLines());
     outlets.sounds.playWav("Url.wav");
 }
@@ -141,10 +140,10 @@ std::string alertHead(std::string_view alertLevel, const AlertMessages& messages
     const HeadRule* rule = ruleOf(alertLevel);
     if (!rule) return before;
     std::string head;
-    for (const Piece piece : rule->order) {
-        if (piece == Piece::none) break;
-        const std::string text = textOf(piece, messages);
-        if (!head.empty() && (rule->barBeforeEmpty || !text.empty())) head += lineBreak;
+    for (const Part part : rule->order) {
+        if (part == Part::none) break;
+        const std::string text = textOf(part, messages);
+        if (!head.empty() && (rule->breakBeforeEmpty || !text.empty())) head += base::lineEnd;
         head += text;
     }
     return head;
@@ -154,7 +153,7 @@ std::string valueLines(const BioState& state) {
     std::string lines;
     for (std::size_t i = 0; i < cycleCount; ++i) {
         const bool rising = trendOf(state.cycle[i], state.cycleNext[i]) == shell::Trend::rising;
-        if (i > 0) lines += lineBreak;
+        if (i > 0) lines += base::lineEnd;
         lines += cycleTable[i].lineWord;
         lines += percentText(state.cycle[i]) + (rising ? " % (rising)" : " % (falling)");
     }
@@ -163,14 +162,14 @@ std::string valueLines(const BioState& state) {
 
 std::string alertKey(std::string_view alertLevel, const AlertMessages& messages) {
     const HeadRule* rule = ruleOf(alertLevel);
-    const bool usesPhases = rule && std::ranges::count(rule->order, Piece::phases) > 0;
-    std::string phaseMessagesJoined = usesPhases ? joinAlertTexts(messages.phases) : std::string{};
-    return phaseMessagesJoined.append(messages.critical).append(messages.crossing);
+    const bool usesPhases = rule && std::ranges::count(rule->order, Part::phases) > 0;
+    std::string key = usesPhases ? phaseMessagesJoined(messages.phases) : std::string{};
+    return key.append(messages.critical).append(messages.crossing);
 }
 
-bool alertOpens(const AlertState& record, std::string_view alertLevel, std::string_view key) {
-    if (record.manualAlert || record.startupAlert) return true;
-    return key != record.lastAlertKey && alertLevel != levelOfLinesAlone;
+bool alertOpens(const AlertState& alerts, std::string_view alertLevel, std::string_view key) {
+    if (alerts.manualAlert || alerts.startupAlert) return true;
+    return key != alerts.lastAlertKey && alertLevel != levelOfLinesAlone;
 }
 
 } // namespace velmoriax::biorhythm

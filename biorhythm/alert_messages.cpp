@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "biorhythm/alert_messages.h"
 
+#include "base/text_lines.h"
+
 namespace velmoriax::biorhythm {
 
 namespace {
@@ -103,11 +105,11 @@ AlertMessages messagesOf(const CyclesAround& around) {
     return {phaseMessages(around), criticalMessage(around), crossingMessage(around)};
 }
 
-std::string joinAlertTexts(const std::array<std::string_view, cycleCount>& phases) {
+std::string phaseMessagesJoined(const std::array<std::string_view, cycleCount>& phases) {
     std::string joined;
     for (const std::string_view message : phases) {
         if (message.empty()) continue;
-        if (!joined.empty()) joined += lineBreak;
+        if (!joined.empty()) joined += base::lineEnd;
         joined += message;
     }
     return joined;

@@ -7,11 +7,8 @@
 #include <string>
 #include <string_view>
 
-/// What a moment of the four cycles has to say: the beginning of phases, a critical period, a crossing.
+/// The messages of a moment: the phases that begin, a critical period, a crossing of two cycles.
 namespace velmoriax::biorhythm {
-
-/// The end of a line in all texts of this room.
-inline constexpr std::string_view lineBreak = "\r\n";
 
 /// The cycles around a moment.
 struct CyclesAround {
@@ -20,7 +17,7 @@ struct CyclesAround {
     CycleValues cycleNext; ///< an hour after
 };
 
-/// The messages of a moment; empty where there is nothing to say.
+/// The messages of a moment; an empty text where there is none.
 struct AlertMessages {
     std::array<std::string_view, cycleCount> phases;
     std::string_view critical;
@@ -29,21 +26,21 @@ struct AlertMessages {
     bool operator==(const AlertMessages&) const = default;
 };
 
-/// A turning point within an hour around the moment: an ascending phase begins at a trough, a descending one at a peak.
-/// Each cycle speaks for itself.
+/// The message of each cycle that has a turning point within an hour of the moment: at its lowest point an ascending
+/// phase begins, at its highest a descending one.
 std::array<std::string_view, cycleCount> phaseMessages(const CyclesAround& around);
 
-/// The first cycle that stands strictly between -0.1 and 0.1 (32-bit bounds) and moves. This is a state and no event: a
-/// cycle near zero keeps its message as long as it stays there.
+/// The message of the first cycle that is strictly between -0.1 and 0.1 (32-bit bounds) and changes within the hour. It
+/// describes a state, not an event: a cycle keeps its message as long as it is near zero.
 std::string_view criticalMessage(const CyclesAround& around);
 
-/// The first pair of a rising and a falling cycle of which one passes the other within the hour. The first cycle's
-/// present value is set against the other's value of the next hour, so that some crossings pass unnoticed.
+/// The message of the first pair, one cycle rising and one falling, that cross within the hour. The first cycle's
+/// present value is compared with the other's value an hour later, so that some crossings are not found.
 std::string_view crossingMessage(const CyclesAround& around);
 
 AlertMessages messagesOf(const CyclesAround& around);
 
 /// The phase messages that are not empty, joined by line breaks.
-std::string joinAlertTexts(const std::array<std::string_view, cycleCount>& phases);
+std::string phaseMessagesJoined(const std::array<std::string_view, cycleCount>& phases);
 
 } // namespace velmoriax::biorhythm

@@ -54,13 +54,12 @@ bool drawsSecond(const SecondProfile& second, std::size_t savedProfiles) {
     return second.drawSecondFlag && savedProfiles >= 2;
 }
 
-ChartData mschart(float lived, SecondProfile& second, std::size_t savedProfiles, base::CivilDate reading,
-                  base::CivilTime clock) {
+ChartData mschart(float lived, SecondProfile& second, std::size_t savedProfiles, const base::CivilMoment& reading) {
     ChartData chart;
-    fillRowLabels(chart, reading);
+    fillRowLabels(chart, reading.date);
     fillColumns(chart, 0, lived);
     if (!drawsSecond(second, savedProfiles)) return chart;
-    computeSecondLived(second, reading, clock);
+    computeSecondLived(second, reading.date, reading.time);
     fillColumns(chart, cycleCount, second.secondLived);
     chart.seriesCount = chartSeriesCount;
     return chart;

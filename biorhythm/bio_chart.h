@@ -14,11 +14,11 @@ inline constexpr std::size_t chartRowCount = 30;
 inline constexpr std::size_t chartSeriesCount = 2 * cycleCount;
 inline constexpr std::size_t readingRow = 14; ///< the row, counted from 0, of the date of reading
 
-/// A line of the chart: the second profile's lines keep the hue and have a quarter of the width.
+/// A line of the chart. The second profile's lines have the hue of the first one's and a quarter of their width.
 struct SeriesLook {
     std::string_view legend;
     base::Colour colour;
-    int width; ///< in the chart's own unit: only the ratio of the lines means something
+    int width; ///< in a unit of its own: only the ratio of the widths has a meaning
 };
 extern const std::array<SeriesLook, chartSeriesCount> seriesTable;
 
@@ -47,11 +47,11 @@ struct ChartData {
     std::array<int, chartRowCount> rowLabels{};                                 ///< day of the month
 };
 
-/// True when the chart draws two profiles: when that is asked for and the list holds at least two.
+/// True when the chart draws two profiles: when the option is set and the list holds at least two.
 bool drawsSecond(const SecondProfile& second, std::size_t savedProfiles);
 
-/// The chart around the age `lived` (days) on the date of reading. With two profiles computes the second one's age.
-ChartData mschart(float lived, SecondProfile& second, std::size_t savedProfiles, base::CivilDate reading,
-                  base::CivilTime clock);
+/// The chart around the age `lived` (days) at `reading`, the date of reading with the clock's time. With two profiles
+/// it computes the second one's age.
+ChartData mschart(float lived, SecondProfile& second, std::size_t savedProfiles, const base::CivilMoment& reading);
 
 } // namespace velmoriax::biorhythm

@@ -8,7 +8,7 @@ namespace velmoriax::biorhythm {
 
 namespace {
 
-/// The month stands first here, though the files and the view have the day first.
+/// The month is first here, though the files and the view have the day first.
 std::string infoText(const base::CivilMoment& birth) {
     return "Biorhythms: b." + base::shortDateText(birth.date) + " " + hourMinuteText(birth.time) + " (average)";
 }

@@ -6,7 +6,7 @@
 
 namespace velmoriax::biorhythm {
 
-/// Computes the record's birth for today and now.
+/// The average of the cycles at the local moment `now`, for the birth of `state`; the results are left in `state`.
 shell::AverageGauge drawBioMedia(BioState& state, base::DateValue now);
 
 } // namespace velmoriax::biorhythm

@@ -37,6 +37,7 @@ void setFinalDate(BioState& state, base::CivilDate date) {
     state.finalDay = toInt16(date.day);
     state.finalMonth = toInt16(date.month);
     state.finalYear = toInt16(date.year);
+    state.finalDateText = dayMonthYearText(date);
 }
 
 std::string dayMonthYearText(base::CivilDate date) {

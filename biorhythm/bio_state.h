@@ -9,10 +9,11 @@
 
 namespace velmoriax::biorhythm {
 
-/// The record that the view, the tip, the gauge and the alerts share: whoever computed last decides what the next
-/// reader sees, so each reader computes first. The widths are the arithmetic's and show in the printed percentages.
+/// The record that the view, the tip, the gauge and the alerts share. It holds the results of the computation that ran
+/// last, for whichever of them that was; each of the four computes before it reads. The widths of the numbers are those
+/// of the arithmetic: they can be seen in the printed percentages.
 struct BioState {
-    /// The main profile's birth date; 1, 1, 1900 is the mark of none.
+    /// The main profile's birth date. January 1, 1900 means that none is set.
     std::int16_t birthDay = 1;
     std::int16_t birthMonth = 1;
     std::int16_t birthYear = 1900;
@@ -25,14 +26,15 @@ struct BioState {
     std::int16_t finalDay = 0;
     std::int16_t finalMonth = 0;
     std::int16_t finalYear = 0;
+    std::string finalDateText; ///< day/month/year without leading zeros, as the two texts below; nothing reads it yet
 
     std::string birthDateText;   ///< day/month/year without leading zeros
-    std::string readingDateText; ///< the same of the date of reading
+    std::string readingDateText; ///< the date of reading, in the same form
 
     std::int32_t wholeDays = 0;          ///< days between the two dates, less one
-    std::int16_t minutesLeftAtBirth = 0; ///< what was left of the day of birth
+    std::int16_t minutesLeftAtBirth = 0; ///< from the time of birth to the next midnight
     float livedAtMidnight = 0;           ///< age in days at the midnight that begins the date of reading
-    float lived = 0;                     ///< age in days at this moment
+    float lived = 0;                     ///< age in days at the clock's hour and minute
 
     CycleValues cycle{};     ///< at `lived`
     CycleValues cycleNext{}; ///< an hour later
@@ -41,7 +43,7 @@ struct BioState {
     std::string ratingText;  ///< the words for the average
 };
 
-/// False for the mark 1, 1, 1900.
+/// False for January 1, 1900.
 bool birthDateIsSet(const BioState& state);
 
 base::CivilMoment birthOf(const BioState& state);

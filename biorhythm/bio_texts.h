@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-/// The texts of the message boxes that the windows of this room show.
+/// The texts of the message boxes that the windows of the biorhythms show.
 namespace velmoriax::biorhythm::text {
 
 inline constexpr std::string_view birthTimeAdvice =
@@ -17,8 +17,9 @@ inline constexpr std::string_view chooseRecordTitle = "ErrorInfo"; ///< without 
 inline constexpr std::string_view chooseRecord = "You must choose a record";
 
 inline constexpr std::string_view snapshotSaved =
-    "The picture has been saved in the application folder as mysnap.jpg"; ///< shown before it is
+    "The picture has been saved in the application folder as mysnap.jpg"; ///< shown before the picture is written
 inline constexpr std::string_view encoderErrorTitle = "Encoder Error";
-inline constexpr std::string_view noEncoder = "Konnte keinen passenden Encoder ermitteln."; ///< German on purpose
+inline constexpr std::string_view noEncoder =
+    "Konnte keinen passenden Encoder ermitteln."; ///< in German, as users know it
 
 } // namespace velmoriax::biorhythm::text

@@ -18,16 +18,15 @@ CycleShown shownCycle(float now, float next) {
     return {"(" + percentText(now) + " %)", now >= 0 ? valueGreen : pureRed, now, trendOf(now, next)};
 }
 
-/// A date that differs from the one on the spin boxes is a change of them, and a change of the birth returns the
-/// reading to today.
+/// Sets a birth from a file. A birth date that differs from the one shown counts as changed.
 void setBirth(BioViewState& view, const base::CivilMoment& birth) {
     const base::CivilDate date = withinView(birth.date);
-    if (date != view.birth.date) view.manualDate = false;
-    view.birth = {date, birth.time};
+    if (date != view.birth.date) takeBirthDate(view, date);
+    view.birth.time = birth.time;
 }
 
-/// Spin boxes that move count as moved by hand, whoever moved them: a date that they were returned to stays there past
-/// midnight, until the next half-hour, the button or a change of the birth returns them again.
+/// A date of reading that changes counts as set by hand, also when it is changed from here: after midnight it is
+/// yesterday's until the next half-hour, the button or a change of the birth returns it again.
 void returnToToday(BioViewState& view, base::CivilDate today) {
     const base::CivilDate reading = withinView(today);
     view.manualDate = reading != view.reading;
@@ -44,6 +43,26 @@ void loadBioView(const platform::Files& files, BioState& state, BioViewState& vi
     setBirth(view, birthOf(state));
     view.reading = withinView(today);
     view.manualDate = true;
+}
+
+void takeBirthDate(BioViewState& view, base::CivilDate date) {
+    view.manualDate = false;
+    view.birth.date = date;
+    limitDaysBirth(view);
+}
+
+void takeReadingDate(BioViewState& view, base::CivilDate date) {
+    view.manualDate = true;
+    view.reading = date;
+    limitDaysBio(view);
+}
+
+void limitDaysBirth(BioViewState& view) {
+    view.birth.date = limitDays(view.birth.date);
+}
+
+void limitDaysBio(BioViewState& view) {
+    view.reading = limitDays(view.reading);
 }
 
 BioShown calcBio(BioState& state, BioViewState& view, base::DateValue now) {
@@ -69,13 +88,12 @@ bool halfHourIsOver(BioViewState& view) {
     return true;
 }
 
-bool pickProfile(platform::Files& files, shell::OptionsStore& options, BioState& state, BioViewState& view,
+bool pickProfile(const platform::Files& files, shell::OptionsStore& options, BioViewState& view,
                  std::string_view name) {
     const auto birth = findProfile(files, name);
     if (!birth) return false;
     setBirth(view, *birth);
     options.setOption(shell::key::perfilBio, name);
-    saveBioState(files, state, view.birth, view.finalDate);
     return true;
 }
 

@@ -8,11 +8,11 @@
 
 namespace velmoriax::biorhythm {
 
-/// Everything of the biorhythms that outlives a window.
+/// Owns everything of the biorhythms that outlives a window.
 struct BiorhythmState {
     BioState bio;
     AlertState alerts;
-    BioViewState view; ///< what the spin boxes of the view hold
+    BioViewState view; ///< the dates that are set in the view
     SecondProfile second;
 };
 

@@ -7,7 +7,7 @@
 
 namespace velmoriax::biorhythm {
 
-/// The chart in words, for those who cannot see its lines: a line a row with the day of the month and each series in
+/// The chart as text for a screen reader. Each line is a row of the chart, with the day of the month and each series in
 /// per cent, as in "1: Physical 44.72 %, Emotional -12.10 %".
 std::string chartText(const ChartData& chart);
 

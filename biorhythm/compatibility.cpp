@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view meanWord = "Mean (Physi + Emo + Intell + Intui):";
 
-/// "few" stands below "little" here: these are the words that users of the affinity know.
+/// "few" is less than "little" here: these are the words that users know.
 struct Level {
     float from;
     float to;
@@ -41,18 +41,18 @@ float actualOf(float main, float second) {
     return static_cast<float>(base::leadingNumber(twoDecimals(mean)));
 }
 
-/// The distance is held in a number wide enough for births more than 89 years apart.
+/// `distance` in days. In 16 bits it would overflow for births more than 89 years apart.
 float generalOf(std::int32_t distance, int period) {
     return static_cast<float>(std::abs(distance % period - period / 2.0) * (200.0 / period));
 }
 
-CompatibilityLabels labelsOf(Compatibility& record, const CycleValues& percent, std::string (*text)(float)) {
-    record.meanPercent = static_cast<float>(meanOf(percent));
-    Niveles(record);
+CompatibilityLabels labelsOf(Compatibility& result, const CycleValues& percent, std::string (*text)(float)) {
+    result.meanPercent = static_cast<float>(meanOf(percent));
+    Niveles(result);
     CompatibilityLabels labels;
     for (std::size_t i = 0; i < cycleCount; ++i)
         labels.cycles[i] = std::string(cycleTable[i].name) + ": " + text(percent[i]) + " %";
-    labels.mean = std::string(meanWord) + " " + twoDecimals(record.meanPercent) + " % (" + record.levelWord + ")";
+    labels.mean = std::string(meanWord) + " " + twoDecimals(result.meanPercent) + " % (" + result.levelWord + ")";
     return labels;
 }
 
@@ -69,29 +69,29 @@ double onPercentScale(double sine) {
     return (sine * 100) / 2 + 50;
 }
 
-void takeMainCycles(Compatibility& record, const CycleValues& cycle) {
-    for (std::size_t i = 0; i < cycleCount; ++i) record.mainPercent[i] = static_cast<float>(onPercentScale(cycle[i]));
+void takeMainCycles(Compatibility& result, const CycleValues& cycle) {
+    for (std::size_t i = 0; i < cycleCount; ++i) result.mainPercent[i] = static_cast<float>(onPercentScale(cycle[i]));
 }
 
-void Niveles(Compatibility& record) {
-    const auto* level = std::ranges::find_if(levels, [&](const Level& row) { return row.holds(record.meanPercent); });
-    if (level != levels.end()) record.levelWord = level->word;
+void Niveles(Compatibility& result) {
+    const auto* level = std::ranges::find_if(levels, [&](const Level& row) { return row.holds(result.meanPercent); });
+    if (level != levels.end()) result.levelWord = level->word;
 }
 
-CompatibilityLabels showActual(Compatibility& record, SecondProfile& second, base::CivilDate reading,
+CompatibilityLabels showActual(Compatibility& result, SecondProfile& second, base::CivilDate reading,
                                base::CivilTime clock) {
     computeSecondLived(second, reading, clock);
     for (std::size_t i = 0; i < cycleCount; ++i) {
-        record.secondPercent[i] = static_cast<float>(onPercentScale(sineAt(second.secondLived, cycleTable[i].period)));
-        record.actualPercent[i] = actualOf(record.mainPercent[i], record.secondPercent[i]);
+        result.secondPercent[i] = static_cast<float>(onPercentScale(sineAt(second.secondLived, cycleTable[i].period)));
+        result.actualPercent[i] = actualOf(result.mainPercent[i], result.secondPercent[i]);
     }
-    return labelsOf(record, record.actualPercent, base::plainNumberText);
+    return labelsOf(result, result.actualPercent, base::plainNumberText);
 }
 
-CompatibilityLabels showGeneral(Compatibility& record, base::CivilDate mainBirth, base::CivilDate secondBirth) {
+CompatibilityLabels showGeneral(Compatibility& result, base::CivilDate mainBirth, base::CivilDate secondBirth) {
     const std::int32_t distance = std::abs(base::daysBetween(mainBirth, secondBirth));
-    for (std::size_t i = 0; i < cycleCount; ++i) record.generalPercent[i] = generalOf(distance, cycleTable[i].period);
-    return labelsOf(record, record.generalPercent, twoDecimals);
+    for (std::size_t i = 0; i < cycleCount; ++i) result.generalPercent[i] = generalOf(distance, cycleTable[i].period);
+    return labelsOf(result, result.generalPercent, twoDecimals);
 }
 
 std::string actualHeading(std::string_view mainName, std::string_view secondName, base::CivilDate reading,

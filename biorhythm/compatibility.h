@@ -8,12 +8,12 @@
 #include <string>
 #include <string_view>
 
-/// How two people go together: "Actual" by the present values of their cycles, "General" by the distance of their
-/// births alone. All percentages are 32-bit numbers from 0 to 100.
+/// How well two people fit together: "Actual" by the present values of their cycles, "General" by the days between
+/// their births alone. All percentages are 32-bit numbers from 0 to 100.
 namespace velmoriax::biorhythm {
 
 struct Compatibility {
-    CycleValues mainPercent{}; ///< of the moment at which the window was loaded
+    CycleValues mainPercent{}; ///< at the moment when the window was loaded
     CycleValues secondPercent{};
     CycleValues actualPercent{}; ///< two decimals
     CycleValues generalPercent{};
@@ -29,22 +29,23 @@ struct CompatibilityLabels {
 /// The labels before the first comparison.
 CompatibilityLabels firstCompatibilityLabels();
 
-/// A sine on the scale 0 to 100: low 0, crossing 50, high 100.
+/// A sine on the scale from 0 to 100: -1 becomes 0, zero 50, and 1 becomes 100.
 double onPercentScale(double sine);
 
-/// Takes the main profile's cycles of this moment.
-void takeMainCycles(Compatibility& record, const CycleValues& cycle);
+/// Sets `mainPercent` from the main profile's cycles.
+void takeMainCycles(Compatibility& result, const CycleValues& cycle);
 
-/// The word of `meanPercent`; a value outside 0 to 100 leaves the word.
-void Niveles(Compatibility& record);
+/// Sets `levelWord` by `meanPercent`; a value outside 0 to 100 leaves the word as it was.
+void Niveles(Compatibility& result);
 
-/// Whether both cycles are high at one time: the mean of the two people's present values. Computes the second one's
-/// age.
-CompatibilityLabels showActual(Compatibility& record, SecondProfile& second, base::CivilDate reading,
+/// For each cycle the mean of the two people's values on the date of reading: high when both are high. Computes the
+/// second person's age.
+CompatibilityLabels showActual(Compatibility& result, SecondProfile& second, base::CivilDate reading,
                                base::CivilTime clock);
 
-/// Whether two cycles run in step for good: 100 when the births lie whole periods apart, 0 at half a period.
-CompatibilityLabels showGeneral(Compatibility& record, base::CivilDate mainBirth, base::CivilDate secondBirth);
+/// For each cycle how far the two people are in phase, for all time: 100 when whole periods are between the births, 0
+/// at half a period.
+CompatibilityLabels showGeneral(Compatibility& result, base::CivilDate mainBirth, base::CivilDate secondBirth);
 
 /// The headings of the two tabs.
 std::string actualHeading(std::string_view mainName, std::string_view secondName, base::CivilDate reading,

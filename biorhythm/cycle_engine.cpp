@@ -19,8 +19,8 @@ int minuteOfDay(base::CivilTime time) {
     return time.hour * 60 + time.minute;
 }
 
-/// The upper bounds of the best three bands belong to them while those of the others do not: 60 is still "very good",
-/// but 40 is "very good" already.
+/// The upper bounds of the best three bands belong to them, those of the others do not: 60 is still "very good", but 40
+/// is "very good" already.
 struct RatingBand {
     double from; ///< included
     double to;
@@ -85,7 +85,7 @@ CycleValues cyclesAt(double t) {
 
 void computeAverage(BioState& state) {
     state.averageText = base::formatFixed(static_cast<float>(meanOf(state.cycle) * 100), 2);
-    // The printed value is rated, not the raw one, so that the words never contradict the number beside them.
+    // The printed value is rated, not the raw one, so that the words always fit the number beside them.
     const double printed = base::leadingNumber(state.averageText);
     const auto* band = std::ranges::find_if(ratingBands, [&](const RatingBand& row) { return row.holds(printed); });
     if (band != ratingBands.end()) state.ratingText = band->words;

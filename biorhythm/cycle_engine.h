@@ -7,24 +7,24 @@
 #include <string>
 
 /// The arithmetic of the four cycles: from a birth, a date of reading and the clock to ages, sines, average and rating.
-/// Nothing is checked here: a birth after the reading gives a negative age, and the sines follow it.
+/// Nothing is checked here: a birth after the reading has a negative age, and the sines are those of that age.
 namespace velmoriax::biorhythm {
 
-/// The constant of the cycles is this product and not two pi: the difference grows with the age and shows within a few
-/// thousand days.
+/// Two times 3.14159, and not two pi: the percentages that users know are computed with it. The difference grows with
+/// the age and can be seen after a few thousand days.
 inline constexpr double fullTurn = 6.28318;
 inline constexpr double oneHour = 1.0 / 24.0; ///< in days
 
 /// The age at one moment.
 struct Lived {
     std::int32_t wholeDays;          ///< calendar days from birth to reading, less one: -1 on the day of birth
-    std::int16_t minutesLeftAtBirth; ///< 1440 less the minute of birth; the day of birth is counted through these
+    std::int16_t minutesLeftAtBirth; ///< 1440 less the minute of birth; the day of birth counts with these
     float livedAtMidnight;           ///< days
     float lived;                     ///< days; seconds do not enter
 };
 
-/// The age on the date of reading at the clock's hour and minute, whatever day the reading is. It is rounded to 32 bits
-/// twice; above 16384 days it thus moves in steps of 2.8 minutes, and the printed percentages with it.
+/// The age on the date of reading at the clock's hour and minute, also when the reading is not today. It is rounded to
+/// 32 bits twice, so that above 16384 days it changes in steps of 2.8 minutes, and the printed percentages with it.
 Lived livedOf(const base::CivilMoment& birth, base::CivilDate reading, base::CivilTime clock);
 
 /// Fills the two date texts, `wholeDays`, `minutesLeftAtBirth`, `livedAtMidnight` and `lived`.
@@ -33,16 +33,16 @@ void computeLived(BioState& state, const base::CivilMoment& birth, base::CivilDa
 /// Fills `cycle` and `cycleNext` from `lived`.
 void computeCycles(BioState& state);
 
-/// The sine of a cycle at any age `t` in days, in full precision. All cycles pass through zero at 0.
+/// The sine of a cycle of `period` days at the age `t` in days, in full precision; 0 at the age 0.
 double sineAt(double t, int period);
 
 /// The same as the cycle's 32-bit value.
 float computeCycleAt(double t, int period);
 
-/// The four sines at any age in days.
+/// The four sines at the age `t` in days.
 CycleValues cyclesAt(double t);
 
-/// Fills `averageText` and `ratingText` from `cycle`. All four cycles count the same.
+/// Fills `averageText` and `ratingText` from `cycle`. All four cycles have the same weight.
 void computeAverage(BioState& state);
 
 /// Average and rating in one line: "-39.20% (negative: bad day)".
@@ -54,7 +54,7 @@ double meanOf(const CycleValues& values);
 /// A sine as a percentage from -100 to 100 with two decimals, such as "-97.53".
 std::string percentText(float sine);
 
-/// Where a value goes over the coming hour.
+/// Compares a value with the value an hour later.
 shell::Trend trendOf(float now, float next);
 
 } // namespace velmoriax::biorhythm

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string_view>
 
-/// The four cycles and how they are called. Every table and array of this room stands in their order.
+/// The four cycles and their names. Every table and array of the cycles has this order.
 namespace velmoriax::biorhythm {
 
 inline constexpr std::size_t physical = 0;
@@ -17,12 +17,12 @@ inline constexpr std::size_t intellectual = 2;
 inline constexpr std::size_t intuition = 3;
 inline constexpr std::size_t cycleCount = 4;
 
-/// One sine a cycle, from -1 to 1.
+/// The sines of the four cycles, from -1 to 1.
 using CycleValues = std::array<float, cycleCount>;
 
 struct CycleFacts {
     int period;                 ///< in days
-    std::string_view lineWord;  ///< in the lines of the alert, with colon and blank
+    std::string_view lineWord;  ///< in the lines of the alert, with colon and space
     std::string_view name;      ///< in the view, the chart and the compatibility
     std::string_view shortName; ///< under the bars and on the lines of the chart
 };

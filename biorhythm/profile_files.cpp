@@ -3,6 +3,7 @@
 
 #include "base/number_text.h"
 #include "base/run_time_error.h"
+#include "base/text_lines.h"
 #include "biorhythm/field_text.h"
 #include "biorhythm/view_dates.h"
 
@@ -38,11 +39,8 @@ std::string pathOf(const platform::Files& files, std::string_view file) {
     return files.applicationDirectory() + "\\" + std::string(file);
 }
 
-std::string_view withoutBlanks(std::string_view text) {
-    constexpr std::string_view blanks = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+std::string_view withoutSpace(std::string_view text) {
+    return base::trimmed(text, " \t\r\n");
 }
 
 bool isWholeNumber(std::string_view text) {
@@ -52,7 +50,7 @@ bool isWholeNumber(std::string_view text) {
 
 int numberOf(std::string_view field, std::string_view file) {
     using Limits = std::numeric_limits<std::int16_t>;
-    const std::string_view text = withoutBlanks(field);
+    const std::string_view text = withoutSpace(field);
     if (!isWholeNumber(text)) fail(Code::typeMismatch, file);
     const auto value = base::wholeNumber(text);
     if (!value || *value < Limits::min() || *value > Limits::max()) fail(Code::overflow, file);
@@ -70,8 +68,8 @@ template<std::size_t Count>
 std::array<int, Count> readNumbers(const platform::Files& files, std::string_view file) {
     const std::string content = contentOf(files, file);
     auto fields = fieldsOf(content, ',');
-    const bool endsBehindComma = fields.size() <= Count && withoutBlanks(fields.back()).empty();
-    if (endsBehindComma) fields.pop_back();
+    const bool endsWithComma = fields.size() <= Count && withoutSpace(fields.back()).empty();
+    if (endsWithComma) fields.pop_back();
     std::array<int, Count> numbers{};
     for (std::size_t i = 0; i < Count; ++i) {
         if (i == fields.size()) fail(Code::inputPastEndOfFile, file);
@@ -86,11 +84,11 @@ base::CivilDate readDate(const platform::Files& files, std::string_view file) {
     return {year, month, day};
 }
 
-/// The comma-separated form of a plain write of numbers.
+/// Numbers between commas, as one line.
 std::string lineOf(std::initializer_list<int> numbers) {
     std::string line;
     for (const int number : numbers) line += (line.empty() ? "" : ",") + std::to_string(number);
-    return line + "\r\n";
+    return line.append(base::lineEnd);
 }
 
 void write(platform::Files& files, std::string_view file, const std::string& line) {
@@ -105,8 +103,8 @@ void writeDate(platform::Files& files, std::string_view file, base::CivilDate da
 
 void loadBirth(const platform::Files& files, BioState& state) {
     const base::CivilDate birth = readDate(files, birthFile);
-    const bool fitsSteppers = birth.year >= firstViewYear && birth.year <= lastViewYear;
-    if (!base::isValid(birth) || !fitsSteppers) fail(Code::typeMismatch, birthFile);
+    const bool yearFits = birth.year >= firstViewYear && birth.year <= lastViewYear;
+    if (!base::isValid(birth) || !yearFits) fail(Code::typeMismatch, birthFile);
     setBirthDate(state, birth);
 }
 

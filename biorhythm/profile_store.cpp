@@ -16,7 +16,7 @@ namespace {
 
 using Status = platform::Files::Status;
 
-std::string listPath(const platform::Files& files) {
+std::string profilesPath(const platform::Files& files) {
     return files.applicationDirectory() + "\\perfiles.txt";
 }
 
@@ -34,27 +34,28 @@ std::optional<base::CivilTime> profileTime(std::string_view timeText) {
     return base::CivilTime{time.hour, time.minute, 0};
 }
 
-std::optional<std::size_t> placeOf(const std::vector<std::string>& names, std::string_view name) {
+std::optional<std::size_t> lastPlaceOf(std::string_view name, const std::vector<std::string>& names) {
     const auto found = std::find(names.rbegin(), names.rend(), name);
     if (found == names.rend()) return std::nullopt;
     return static_cast<std::size_t>(names.rend() - found) - 1;
 }
 
-bool standsInFull(const platform::Files& files, std::string_view recordBytes) {
-    const std::string bytes = files.read(listPath(files)).bytes;
+bool isInList(const platform::Files& files, std::string_view recordBytes) {
+    const std::string bytes = files.read(profilesPath(files)).bytes;
     return std::ranges::any_of(linesOf(bytes), [&](const base::Line& line) { return line.text == recordBytes; });
 }
 
-/// A new temporary file's path; tells what failed and gives nothing when there is none.
+/// A new temporary file's path. After a failure shows its message and returns nothing.
 std::optional<std::string> temporaryFile(platform::Files& files, platform::MessageBoxes& boxes,
                                          const RewriteMessages& messages) {
     const auto folder = files.temporaryFolder();
-    const auto path = folder ? files.createTemporaryFile(*folder, "tmp") : std::nullopt;
-    if (!path) boxes.show(platform::BoxIcon::none, std::string(folder ? messages.nameFailure : messages.pathFailure));
-    return path;
+    const auto tempName = folder ? files.createTemporaryFile(*folder, "tmp") : std::nullopt;
+    if (!tempName)
+        boxes.show(platform::BoxIcon::none, std::string(folder ? messages.nameFailure : messages.pathFailure));
+    return tempName;
 }
 
-std::string withoutLinesHolding(std::string_view bytes, std::string_view selected) {
+std::string withoutLinesThatContain(std::string_view bytes, std::string_view selected) {
     std::string kept;
     kept.reserve(bytes.size());
     for (const auto& [text, end] : linesOf(bytes)) {
@@ -96,7 +97,7 @@ std::string monthNumberFromName(std::string_view name, std::string_view previous
 }
 
 std::vector<std::string> profileLines(const platform::Files& files) {
-    const std::string bytes = files.read(listPath(files)).bytes;
+    const std::string bytes = files.read(profilesPath(files)).bytes;
     std::vector<std::string> lines;
     for (const base::Line& line : linesOf(bytes))
         if (!line.text.empty()) lines.push_back(base::fromWindows1252(line.text));
@@ -120,50 +121,51 @@ std::optional<base::CivilMoment> findProfile(const platform::Files& files, std::
     return birth;
 }
 
-std::optional<std::size_t> selectedAtLoad(const std::vector<std::string>& names, std::string_view storedName) {
-    if (!storedName.empty() || names.empty()) return placeOf(names, storedName);
+std::optional<std::size_t> selectedAtLoad(const std::vector<std::string>& names, std::string_view profileMainName) {
+    if (!profileMainName.empty() || names.empty()) return lastPlaceOf(profileMainName, names);
     return 0;
 }
 
-std::optional<std::size_t> selectedAfterEdit(const std::vector<std::string>& names, std::string_view storedName) {
+std::optional<std::size_t> selectedAfterEdit(const std::vector<std::string>& names, std::string_view profileMainName) {
     if (names.empty()) return std::nullopt;
-    return placeOf(names, storedName).value_or(names.size() - 1);
+    return lastPlaceOf(profileMainName, names).value_or(names.size() - 1);
 }
 
 void createProfileList(platform::Files& files) {
-    files.append(listPath(files), {});
+    files.append(profilesPath(files), {});
 }
 
-std::string profileLine(std::string_view name, base::CivilDate birth, std::string_view timeText) {
+std::string profileLine(std::string_view name, const RecordedBirth& birth) {
+    const auto& [date, timeText] = birth;
     std::string line(name);
-    line += "," + std::string(base::monthNameEnglish(birth.month)) + "/" + std::to_string(birth.day) + "/" +
-            std::to_string(birth.year) + ",";
+    line.append(",").append(base::monthNameEnglish(date.month));
+    line += "/" + std::to_string(date.day) + "/" + std::to_string(date.year) + ",";
     return line.append(timeText);
 }
 
-bool appendProfile(platform::Files& files, std::string_view name, base::CivilDate birth, std::string_view timeText) {
-    return appendToCopy(files, listPath(files), name, birth, timeText);
+bool appendProfile(platform::Files& files, std::string_view name, const RecordedBirth& birth) {
+    return appendToCopy(files, profilesPath(files), name, birth);
 }
 
-bool appendToCopy(platform::Files& files, const std::string& copyPath, std::string_view name, base::CivilDate birth,
-                  std::string_view timeText) {
+bool appendToCopy(platform::Files& files, const std::string& copyPath, std::string_view name,
+                  const RecordedBirth& birth) {
     auto [status, bytes] = files.read(copyPath);
     if (status == Status::unreadable) return false;
-    const bool endsInsideLine = !bytes.empty() && base::lineEnd.find(bytes.back()) == std::string_view::npos;
-    if (endsInsideLine) bytes += base::lineEnd;
-    bytes.append(base::toWindows1252(profileLine(name, birth, timeText))).append(base::lineEnd);
+    const bool lastLineHasNoEnd = !bytes.empty() && base::lineEnd.find(bytes.back()) == std::string_view::npos;
+    if (lastLineHasNoEnd) bytes += base::lineEnd;
+    bytes.append(base::toWindows1252(profileLine(name, birth))).append(base::lineEnd);
     return files.replace(copyPath, bytes);
 }
 
 std::optional<std::string> saveProfile(platform::Files& files, platform::MessageBoxes& boxes,
-                                       shell::OptionsStore& options, base::CivilDate birth, std::string_view timeText) {
+                                       shell::OptionsStore& options, const RecordedBirth& birth) {
     const std::string name = boxes.askText("Name for this profile:", "Profile").value_or(std::string{});
     if (name.empty()) return std::nullopt;
-    if (standsInFull(files, base::toWindows1252(profileLine(name, birth, timeText)))) {
+    if (isInList(files, base::toWindows1252(profileLine(name, birth)))) {
         boxes.show(platform::BoxIcon::warning, "This profile exists already, put another please.", "Error");
         return std::nullopt;
     }
-    if (!appendProfile(files, name, birth, timeText))
+    if (!appendProfile(files, name, birth))
         throw base::RunTimeError(base::RunTimeError::Code::pathFileAccess, "perfiles.txt");
     options.setOption(shell::key::perfilBio, name);
     return base::fromWindows1252(base::toWindows1252(name));
@@ -172,17 +174,17 @@ std::optional<std::string> saveProfile(platform::Files& files, platform::Message
 std::optional<std::string> copyWithoutProfile(platform::Files& files, platform::MessageBoxes& boxes,
                                               std::string_view selectedLine, const RewriteMessages& messages) {
     if (selectedLine.empty()) return std::nullopt;
-    const auto list = files.read(listPath(files));
+    const auto list = files.read(profilesPath(files));
     if (list.status != Status::read) return std::nullopt;
     auto path = temporaryFile(files, boxes, messages);
     if (!path) return std::nullopt;
-    if (files.replace(*path, withoutLinesHolding(list.bytes, base::toWindows1252(selectedLine)))) return path;
+    if (files.replace(*path, withoutLinesThatContain(list.bytes, base::toWindows1252(selectedLine)))) return path;
     files.remove(*path);
     return std::nullopt;
 }
 
 bool replaceProfiles(platform::Files& files, const std::string& temporaryPath) {
-    return files.rename(temporaryPath, listPath(files));
+    return files.rename(temporaryPath, profilesPath(files));
 }
 
 void removeProfileLines(platform::Files& files, platform::MessageBoxes& boxes, std::string_view selectedLine,

@@ -11,9 +11,10 @@
 #include <string_view>
 #include <vector>
 
-/// The saved people, "perfiles.txt": a line each, in order of saving, with name, birth date and time of birth between
-/// commas, as in "Ann Sample,March/15/1980,7:45". Texts are UTF-8 here and Windows-1252 in the file. Lines end in CR
-/// LF; other line ends are read too. Reading never writes, and a file that is missing or unreadable reads as empty.
+/// The saved people, "perfiles.txt": one line for each, in order of saving, with name, birth date and time of birth
+/// between commas, as in "Ann Sample,March/15/1980,7:45". Texts are UTF-8 here and Windows-1252 in the file. Lines end
+/// in CR LF when written; other line ends can be read too. Reading never writes, and a file that is missing or
+/// unreadable reads as empty.
 namespace velmoriax::biorhythm {
 
 /// The first three fields of a line. A comma in the name shifts the others: nothing in the format prevents it.
@@ -26,49 +27,56 @@ struct ProfileFields {
 /// A field that the line does not have is empty.
 ProfileFields parseProfileLine(std::string_view line);
 
-/// The date of a date text, "March/15/1980"; nothing for an unknown month and a date that does not exist.
+/// The date of a text such as "March/15/1980"; nothing for an unknown month and for a date that does not exist.
 std::optional<base::CivilDate> profileDate(std::string_view dateText);
 
-/// Birth date and time of a line; nothing when one of the two is no date or time.
+/// Birth date and time of a line; nothing when one of the two cannot be read.
 std::optional<base::CivilMoment> profileBirth(const ProfileFields& fields);
 
 /// The number of an English month name as text, "1" to "12"; `previous` for any other name.
 std::string monthNumberFromName(std::string_view name, std::string_view previous);
 
-/// All non-empty lines as they stand, and their names, in the file's order.
+/// All lines that are not empty, unchanged, and the names in them, in the file's order.
 std::vector<std::string> profileLines(const platform::Files& files);
 std::vector<std::string> profileNames(const platform::Files& files);
 
 /// The birth of the person of that name. Of several lines the last one decides; lines whose date or time cannot be read
-/// are passed over. Nothing when no line is left.
+/// are skipped. Nothing when no line is left.
 std::optional<base::CivilMoment> findProfile(const platform::Files& files, std::string_view name);
 
-/// The place in the list of the entry (the last one) of the stored name. Without it, at the load of the view: the first
-/// entry when no name is stored, else none; after editing: the last entry. None in an empty list.
-std::optional<std::size_t> selectedAtLoad(const std::vector<std::string>& names, std::string_view storedName);
-std::optional<std::size_t> selectedAfterEdit(const std::vector<std::string>& names, std::string_view storedName);
+/// The entry of the main profile in the list of names, the last one of that name. When the list does not have the name,
+/// the load of the view selects the first entry if no name is stored and else none; after editing the last entry is
+/// selected. None in an empty list.
+std::optional<std::size_t> selectedAtLoad(const std::vector<std::string>& names, std::string_view profileMainName);
+std::optional<std::size_t> selectedAfterEdit(const std::vector<std::string>& names, std::string_view profileMainName);
 
-/// Makes sure that the file exists; what it holds stays.
+/// Creates the file when it is missing; one that exists keeps its content.
 void createProfileList(platform::Files& files);
 
-/// The line of a record. `timeText` stands as it is given: with a two-digit minute from the view, plain from the
-/// editor.
-std::string profileLine(std::string_view name, base::CivilDate birth, std::string_view timeText);
+/// A birth as a record has it. `timeText` is written as it is: with a two-digit minute from the view, without padding
+/// from the editor.
+struct RecordedBirth {
+    base::CivilDate date;
+    std::string_view timeText;
+};
 
-/// Appends a record on a line of its own; false when it could not be written.
-bool appendProfile(platform::Files& files, std::string_view name, base::CivilDate birth, std::string_view timeText);
+/// The line of a record.
+std::string profileLine(std::string_view name, const RecordedBirth& birth);
 
-/// The same on a copy of the list.
-bool appendToCopy(platform::Files& files, const std::string& copyPath, std::string_view name, base::CivilDate birth,
-                  std::string_view timeText);
+/// Appends a record as a line of its own; false when it could not be written.
+bool appendProfile(platform::Files& files, std::string_view name, const RecordedBirth& birth);
 
-/// "Save profile": asks for a name, refuses a record that stands already in full, appends it and stores the name as the
-/// main profile's. Gives the name as it reads back from the file; nothing when nothing was saved. Throws a path or file
-/// access error when the file cannot be written.
+/// The same for a copy of the list.
+bool appendToCopy(platform::Files& files, const std::string& copyPath, std::string_view name,
+                  const RecordedBirth& birth);
+
+/// "Save profile": asks for a name, refuses a record that the list already has in full, appends it and stores the name
+/// as the main profile. Returns the name as it is read back from the file; nothing when nothing was saved. Throws a
+/// path or file access error when the file cannot be written.
 std::optional<std::string> saveProfile(platform::Files& files, platform::MessageBoxes& boxes,
-                                       shell::OptionsStore& options, base::CivilDate birth, std::string_view timeText);
+                                       shell::OptionsStore& options, const RecordedBirth& birth);
 
-/// What is told when the temporary file of a rewrite cannot be made.
+/// The messages for a rewrite whose temporary file cannot be created.
 struct RewriteMessages {
     std::string_view pathFailure;
     std::string_view nameFailure;
@@ -78,13 +86,13 @@ inline constexpr RewriteMessages deleteMessages{"Error getting temporary file pa
 inline constexpr RewriteMessages modifyMessages{"Error searching the path of file.",
                                                 "Error searching the name of file."};
 
-/// First half of a rewrite: copies to a temporary file, byte for byte, all lines in which the selected one does not
-/// occur. The test is for a part of the line: a record that is the tail of another person's line takes that line with
-/// it. Gives the temporary file's path; nothing after a failure, and for an empty selection.
+/// First half of a rewrite: copies to a temporary file, unchanged, all lines that do not contain the selected line. The
+/// comparison is with any part of a line: when the selected record is the end of another person's line, that line is
+/// left out too. Returns the temporary file's path; nothing after a failure, and for an empty selection.
 std::optional<std::string> copyWithoutProfile(platform::Files& files, platform::MessageBoxes& boxes,
                                               std::string_view selectedLine, const RewriteMessages& messages);
 
-/// Second half: puts the temporary file in the place of the list. On failure (false) the list stands.
+/// Second half: replaces the list by the temporary file. False on failure; the list is unchanged then.
 bool replaceProfiles(platform::Files& files, const std::string& temporaryPath);
 
 /// Both halves: deletes a record.

@@ -36,9 +36,11 @@ void storeDrawSecond(shell::OptionsStore& options, SecondProfile& second, bool d
 }
 
 void computeSecondLived(SecondProfile& second, base::CivilDate reading, base::CivilTime clock) {
-    const auto [secondWholeDays, secondMinutesLeft, secondLivedAtMidnight, secondLived] =
-        livedOf({second.secondDate, second.secondTime}, reading, clock);
-    second.secondLived = secondLived;
+    const Lived age = livedOf({second.secondDate, second.secondTime}, reading, clock);
+    second.secondWholeDays = age.wholeDays;
+    second.secondMinutesLeft = age.minutesLeftAtBirth;
+    second.secondLivedAtMidnight = age.livedAtMidnight;
+    second.secondLived = age.lived;
 }
 
 } // namespace velmoriax::biorhythm

@@ -27,14 +27,14 @@ base::CivilDate withinView(base::CivilDate date) {
     return limitDays({std::clamp(date.year, firstViewYear, lastViewYear), date.month, date.day});
 }
 
-base::CivilDate stepBack(base::CivilDate date) {
+base::CivilDate dayBefore(base::CivilDate date) {
     if (date <= firstDay) return firstDay;
     if (date.day > 1) return {date.year, date.month, date.day - 1};
     if (date.month > 1) return {date.year, date.month - 1, daysInViewMonth(date.year, date.month - 1)};
     return {date.year - 1, 12, 31};
 }
 
-base::CivilDate stepOn(base::CivilDate date) {
+base::CivilDate dayAfter(base::CivilDate date) {
     if (date >= lastDay) return lastDay;
     if (date.day < daysInViewMonth(date.year, date.month)) return {date.year, date.month, date.day + 1};
     if (date.month < 12) return {date.year, date.month + 1, 1};

@@ -44,11 +44,18 @@ endfunction()
 foreach(module IN LISTS VELMORIAX_MODULES)
   velmoriax_header_folder(folder "${module}")
   file(GLOB headers CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${module}/*.h")
+  file(GLOB old "${folder}/${module}/*.h")
+  set(names "")
   foreach(header IN LISTS headers)
     get_filename_component(name "${header}" NAME)
+    list(APPEND names "${folder}/${module}/${name}")
     file(RELATIVE_PATH real "${folder}/${module}" "${header}")
     file(CONFIGURE OUTPUT "${folder}/${module}/${name}" CONTENT "#include \"${real}\"\n" @ONLY)
   endforeach()
+  list(REMOVE_ITEM old ${names}) # of headers that are no more
+  if(old)
+    file(REMOVE ${old})
+  endif()
 endforeach()
 
 # Lets the sources of a target see the headers of these modules and of what those may use.

@@ -11,9 +11,10 @@ namespace velmoriax::program {
 Modules::Modules(shell::DesktopServices& desktop) :
     options(desktop.files), signTip({desktop.files, desktop.zone}, sky),
     moonTip({desktop.files, desktop.zone, desktop.events, options}), cardTip(desktop.files, options, cards.cards),
-    biorhythmServices(biorhythms, {desktop.clock, desktop.files, desktop.sounds, options}),
-    subsystems{biorhythmServices, {&cardTip, &signTip, &biorhythmServices, &moonTip}, moonTip},
-    tarotContext{cards, sky, biorhythmServices}, context{state, options, agent, desktop, subsystems, windows, switcher},
+    biorhythmsForShell(biorhythms, {desktop.clock, desktop.files, desktop.sounds, options}),
+    subsystems{biorhythmsForShell, {&cardTip, &signTip, &biorhythmsForShell, &moonTip}, moonTip},
+    tarotContext{cards, sky, biorhythmsForShell}, context{state,      options, agent,   desktop,
+                                                          subsystems, windows, switcher},
     switcher(context), windows(desktop.events) {
     addWindows();
 }
@@ -28,7 +29,7 @@ void Modules::addWindows() {
 
 void Modules::setNotification(platform::Notification* notification) {
     context.notification = notification;
-    biorhythmServices.notification = notification;
+    biorhythmsForShell.notification = notification;
 }
 
 } // namespace velmoriax::program

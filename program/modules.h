@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "biorhythm/biorhythm_services.h"
+#include "biorhythm/biorhythms_for_shell.h"
 #include "shell/windows/module_switcher.h"
 #include "shell/windows/window_context.h"
 #include "shell/windows/window_registry.h"
@@ -33,7 +33,7 @@ struct Modules {
     tarot::CardTip cardTip;
 
     biorhythm::BiorhythmState biorhythms;
-    biorhythm::BiorhythmServices biorhythmServices;
+    biorhythm::BiorhythmsForShell biorhythmsForShell;
 
     shell::Subsystems subsystems;
     tarot::TarotContext tarotContext;

@@ -18,7 +18,7 @@ struct ShellState {
     bool taskBarAtBottom = false;     ///< as last measured
     int taskBarLocation = 0;          ///< 0 left, 1 top, 2 right, 3 bottom; 0 until it is first asked for
     bool trayMissingReported = false; ///< the user knows that this desktop has no place for the icon
-    std::string notificationText;     ///< what the notification shows
+    std::string notificationText;     ///< the text that the notification shows, or showed last
     bool cardDescriptionOpen = false; ///< a description box of a card is open: the tray shows no tip over it
 };
 

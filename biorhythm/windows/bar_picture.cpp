@@ -12,9 +12,10 @@ namespace velmoriax::biorhythm {
 
 namespace {
 
-constexpr double scaleWidth = 12; ///< of the picture's own scale across; down it goes from 1 to -1
+constexpr double scaleWidth =
+    12; ///< the picture's scale is from 0 to 12 across, and from 1 at the top to -1 at the bottom
 
-/// A place of the picture's scale within the field.
+/// The pixel of a point of that scale.
 QPointF at(const QRectF& field, double x, double y) {
     return {field.left() + field.width() * x / scaleWidth, field.center().y() - field.height() / 2 * y};
 }
@@ -50,7 +51,7 @@ void BarPicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(widgets::look::panel());
-    painter.setBrush(plotGround());
+    painter.setBrush(plotBackground());
     painter.drawRoundedRect(field(), 4, 4);
     paintBars(painter);
     paintScale(painter);

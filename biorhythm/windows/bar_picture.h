@@ -7,7 +7,7 @@
 
 namespace velmoriax::biorhythm {
 
-/// The four cycles as bars up and down from a zero line, each with its name below and its scale at the side.
+/// The four cycles as bars up and down from a zero line, with their names below and the scale at the side.
 class BarPicture : public QWidget {
     Q_OBJECT
 

@@ -11,8 +11,8 @@ inline QColor colourOf(base::Colour colour) {
     return {colour.red, colour.green, colour.blue};
 }
 
-/// The ground of chart and bars. Pure blue is so dark a colour that only a ground near black sets it off.
-inline QColor plotGround() {
+/// The background of chart and bars. It is almost black, since pure blue is too dark to be seen on anything lighter.
+inline QColor plotBackground() {
     return {3, 4, 12};
 }
 

@@ -14,10 +14,10 @@ namespace velmoriax::biorhythm {
 
 namespace {
 
-/// The chart as a screen reader meets it.
-class SpokenPlot : public QAccessibleWidget {
+/// The chart for a screen reader.
+class PlotForReader : public QAccessibleWidget {
 public:
-    explicit SpokenPlot(BioPlot* plot) : QAccessibleWidget(plot, QAccessible::Chart) {}
+    explicit PlotForReader(BioPlot* plot) : QAccessibleWidget(plot, QAccessible::Chart) {}
 
     QString text(QAccessible::Text kind) const override {
         if (kind != QAccessible::Description) return QAccessibleWidget::text(kind);
@@ -25,9 +25,9 @@ public:
     }
 };
 
-QAccessibleInterface* spokenPlot(const QString&, QObject* object) {
+QAccessibleInterface* plotForReader(const QString&, QObject* object) {
     auto* plot = qobject_cast<BioPlot*>(object);
-    return plot ? new SpokenPlot(plot) : nullptr;
+    return plot ? new PlotForReader(plot) : nullptr;
 }
 
 } // namespace
@@ -41,7 +41,7 @@ PlotDrawing& loadPlotDrawing(const std::string& pluginFolder, QWidget& parent) {
 }
 
 BioPlot::BioPlot(QWidget* parent) : QWidget(parent) {
-    [[maybe_unused]] static const bool spoken = (QAccessible::installFactory(spokenPlot), true);
+    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(plotForReader), true);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("Biorhythm chart"));
     auto* layout = new QVBoxLayout(this);

@@ -7,14 +7,14 @@
 
 namespace velmoriax::biorhythm {
 
-/// The line chart of thirty days. Who cannot see it hears its rows: the text is made when it is asked for.
+/// The line chart of thirty days. A screen reader can read its rows; their text is built on request.
 class BioPlot : public QWidget {
     Q_OBJECT
 
 public:
     explicit BioPlot(QWidget* parent = nullptr);
 
-    /// Gives it what draws the lines; a child of this widget from now on.
+    /// Sets what draws the lines; it becomes a child of this widget.
     void takeDrawing(PlotDrawing& drawing);
 
     void showChart(const ChartData& chart);

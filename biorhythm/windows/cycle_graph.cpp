@@ -9,16 +9,16 @@ namespace velmoriax::biorhythm {
 
 namespace {
 
-constexpr double pixelsOfUnit = 0.1; ///< the widths 40 and 10 become 4 and 1 pixels
-constexpr double rimWidth = 1.5;
+constexpr double pixelsOfUnit = 0.1; ///< widths of 40 and 10 are 4 and 1 pixels
+constexpr double edgeWidth = 1.5;
 constexpr int rowsBetweenSeries = 3;
 
-QColor rimColour(const QColor& line, bool strong) {
+QColor edgeColour(const QColor& line, bool strong) {
     const QColor light((line.red() + 255) / 2, (line.green() + 255) / 2, (line.blue() + 255) / 2);
     return {light.red(), light.green(), light.blue(), strong ? 190 : 110};
 }
 
-/// Where the badges of a series stand, in rows from 0: apart from those of the other series and of the reading.
+/// The rows of a series' badges, from 0: none of them is that of another series or that of the reading.
 std::array<int, 2> badgeRows(std::size_t series) {
     const int cycle = static_cast<int>(series % cycleCount) * rowsBetweenSeries;
     const int shift = series >= cycleCount ? 1 : 0;
@@ -34,7 +34,8 @@ CycleGraph::CycleGraph(QCPAxis& keyAxis, QCPAxis& valueAxis, std::size_t series)
     const QColor colour = colourOf(look.colour);
     setName(widgets::qtText(look.legend));
     setPen(QPen(colour, look.width * pixelsOfUnit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    rim_ = QPen(rimColour(colour, !isSecond()), pen().widthF() + rimWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    edge_ =
+        QPen(edgeColour(colour, !isSecond()), pen().widthF() + edgeWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     if (isSecond()) badge_ += u'2';
     badgeFont_.setPointSizeF(badgeFont_.pointSizeF() * 0.9);
     badgeFont_.setBold(true);
@@ -42,7 +43,7 @@ CycleGraph::CycleGraph(QCPAxis& keyAxis, QCPAxis& valueAxis, std::size_t series)
     badgeSize_ = {metrics.horizontalAdvance(badge_) + 8, metrics.height()};
 }
 
-void CycleGraph::take(const ChartData& chart) {
+void CycleGraph::showColumnOf(const ChartData& chart) {
     QVector<QCPGraphData> points(chartRowCount);
     for (std::size_t row = 0; row < chartRowCount; ++row)
         points[static_cast<qsizetype>(row)] = {static_cast<double>(row + 1),
@@ -57,7 +58,7 @@ void CycleGraph::drawBadges(QCPPainter& painter) const {
 
 void CycleGraph::drawLinePlot(QCPPainter* painter, const QVector<QPointF>& lines) const {
     const QPen line = painter->pen();
-    painter->setPen(rim_);
+    painter->setPen(edge_);
     drawPolyline(painter, lines);
     painter->setPen(line);
     QCPGraph::drawLinePlot(painter, lines);
@@ -73,11 +74,11 @@ void CycleGraph::drawBadge(QCPPainter& painter, QPointF centre) const {
     QRectF box({}, badgeSize_);
     box.moveCenter(centre);
     const QColor colour = pen().color();
-    painter.setPen(rim_.color());
-    painter.setBrush(isSecond() ? plotGround() : colour);
+    painter.setPen(edge_.color());
+    painter.setBrush(isSecond() ? plotBackground() : colour);
     painter.drawRoundedRect(box, box.height() / 3, box.height() / 3);
-    const bool darkGround = isSecond() || qGray(colour.rgb()) < 100;
-    painter.setPen(darkGround ? QColor(Qt::white) : plotGround());
+    const bool darkBackground = isSecond() || qGray(colour.rgb()) < 100;
+    painter.setPen(darkBackground ? QColor(Qt::white) : plotBackground());
     painter.setFont(badgeFont_);
     painter.drawText(box, Qt::AlignCenter, badge_);
 }

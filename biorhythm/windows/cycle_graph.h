@@ -9,17 +9,17 @@
 
 namespace velmoriax::biorhythm {
 
-/// One series of the chart: a line with a light rim, which lifts the dark colours off the night, and with the cycle's
-/// short name in badges upon it, so that colour is not the only thing that tells the lines apart.
-/// The chart library's header wants a file without QT_NO_KEYWORDS.
+/// One series of the chart. The line has a light edge, so that dark colours can be seen on the dark background, and
+/// badges with the cycle's short name, so that the lines do not differ by colour alone. A file that includes this
+/// header has to undefine QT_NO_KEYWORDS first, for the chart library's header.
 class CycleGraph : public QCPGraph {
 public:
     CycleGraph(QCPAxis& keyAxis, QCPAxis& valueAxis, std::size_t series);
 
-    /// Takes its column of the chart.
-    void take(const ChartData& chart);
+    /// Shows its column of the chart.
+    void showColumnOf(const ChartData& chart);
 
-    /// Draws the badges, which stand above the lines of all series.
+    /// Draws the badges: separately, because they are above the lines of all series.
     void drawBadges(QCPPainter& painter) const;
 
 protected:
@@ -34,10 +34,10 @@ private:
     QString badge_;
     QFont badgeFont_;
     QSizeF badgeSize_;
-    QPen rim_;
+    QPen edge_;
 };
 
-/// The badges of all series that are visible, on a layer above the lines.
+/// The badges of all visible series, on a layer above the lines.
 class CycleBadges : public QCPLayerable {
 public:
     CycleBadges(QCustomPlot& plot, std::span<CycleGraph* const> series) :

@@ -9,7 +9,7 @@ class QWidget;
 
 namespace velmoriax::biorhythm {
 
-/// Gives a label's text a colour.
+/// Sets the colour of a label's text; does nothing when the label has it already.
 void setColour(QWidget& label, const QColor& colour);
 
 /// The labels of one cycle in the view: its name, its value, and the two small arrows of which one is shown.

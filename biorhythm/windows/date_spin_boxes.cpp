@@ -13,15 +13,11 @@ DateSpinBoxes::DateSpinBoxes(widgets::SpinBox& day, widgets::SpinBox& month, wid
     year_.setRange(firstViewYear, lastViewYear);
     day_.setRange(1, daysInViewMonth(firstViewYear, 1));
     for (widgets::SpinBox* box : {&day_, &month_, &year_})
-        QObject::connect(box, &widgets::SpinBox::valueChanged, box, [this] { stepped(); });
-}
-
-base::CivilDate DateSpinBoxes::date() const {
-    return {year_.value(), month_.value(), day_.value()};
+        QObject::connect(box, &widgets::SpinBox::valueChanged, box, [this] { callChanged(); });
 }
 
 void DateSpinBoxes::show(base::CivilDate date) {
-    // The bound comes before the day: a 31 is to stand where a shorter month stood.
+    // The bound first: the month shown before may be too short for the day.
     const QSignalBlocker quiet(&day_);
     day_.setMaximum(daysInViewMonth(date.year, date.month));
     day_.setValue(date.day);
@@ -29,10 +25,8 @@ void DateSpinBoxes::show(base::CivilDate date) {
     year_.showValue(date.year);
 }
 
-void DateSpinBoxes::stepped() {
-    const base::CivilDate within = limitDays(date());
-    show(within);
-    if (changed) changed(within);
+void DateSpinBoxes::callChanged() {
+    if (changed) changed({year_.value(), month_.value(), day_.value()});
 }
 
 } // namespace velmoriax::biorhythm

@@ -11,23 +11,22 @@ class SpinBox;
 
 namespace velmoriax::biorhythm {
 
-/// Three spin boxes that hold one date. The day is kept within the month's length before anyone hears of a change.
+/// Three spin boxes that hold one date.
 class DateSpinBoxes {
 public:
     DateSpinBoxes(widgets::SpinBox& day, widgets::SpinBox& month, widgets::SpinBox& year);
     DateSpinBoxes(const DateSpinBoxes&) = delete;
     DateSpinBoxes& operator=(const DateSpinBoxes&) = delete;
 
-    base::CivilDate date() const;
-
-    /// Puts a whole date on the spin boxes and tells nobody.
+    /// Shows a date; `changed` is not called.
     void show(base::CivilDate date);
 
-    /// Runs when a spin box was moved, with a date that is within the month.
+    /// Called with the three values after one of them changed. The day may be beyond the end of a month that was chosen
+    /// after it: whoever takes the date shows the one that it became.
     std::function<void(base::CivilDate)> changed;
 
 private:
-    void stepped();
+    void callChanged();
 
     widgets::SpinBox& day_;
     widgets::SpinBox& month_;

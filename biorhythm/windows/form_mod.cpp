@@ -21,12 +21,9 @@ FormMod::FormMod(shell::WindowContext& context) : SecondaryWindow(context), ui_(
 
 FormMod::~FormMod() = default;
 
-ProfileList* FormMod::list() const {
-    return windows().loaded<ProfileList>();
-}
-
 void FormMod::load() {
-    const std::string line = list() ? list()->selectedRecord() : std::string();
+    const ProfileList* list = windows().loaded<ProfileList>();
+    const std::string line = list ? list->selectedRecord() : std::string();
     const auto copy = copyWithoutProfile(desktop().files, desktop().boxes, line, modifyMessages);
     if (!copy) return unload();
     tempPath_ = *copy;
@@ -45,8 +42,8 @@ void FormMod::showRecord(const std::string& line) {
 void FormMod::submit() {
     const base::CivilTime time{ui_->VScrollHora->value(), ui_->VScrollMinuto->value(), 0};
     submitProfile(desktop().files, tempPath_, ui_->TextName->text().toStdString(),
-                  widgets::civilDate(ui_->DTPicker1->date()), time);
-    if (list()) list()->ListaPerfiles();
+                  {widgets::civilDate(ui_->DTPicker1->date()), time});
+    if (ProfileList* list = windows().loaded<ProfileList>()) list->ListaPerfiles();
     close();
 }
 

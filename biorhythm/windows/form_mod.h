@@ -15,9 +15,9 @@ namespace velmoriax::biorhythm {
 
 class ProfileList;
 
-/// Edits the record that is chosen in the list of profiles. The copy of the list without it is made when the window
-/// loads and takes the list's place on "Submit"; "Cancel" leaves the copy among the temporary files. No other window
-/// answers meanwhile, so that nothing is saved that the copy would undo.
+/// Edits the record that is selected in the list of profiles. A copy of the list without that record is made when the
+/// window loads; "Submit" replaces the list by it, "Cancel" leaves it in the temporary folder. The window is modal:
+/// whatever another window saved meanwhile would be lost with "Submit".
 class FormMod : public shell::SecondaryWindow {
     Q_OBJECT
 
@@ -30,7 +30,6 @@ public:
     void load() override;
 
 private:
-    ProfileList* list() const;
     void showRecord(const std::string& line);
     void submit();
 

@@ -24,7 +24,6 @@ std::string FormSnap::pathOf(const char* name) const {
     return desktop().files.applicationDirectory() + "\\" + name;
 }
 
-/// The view in the pixels of its screen.
 QImage FormSnap::capture() const {
     ProfileView* view = windows().loaded<ProfileView>();
     return view ? view->picture() : QImage();
@@ -37,7 +36,7 @@ void FormSnap::load() {
     const QImage picture = capture();
     bool failed = !files.replace(bitmap, pictureBytes(picture, "BMP").toStdString());
     desktop().boxes.show(platform::BoxIcon::information, std::string(text::snapshotSaved));
-    savePictureAsJpeg(picture, files, desktop().boxes, result, snapQuality, encoders);
+    savePictureAsJpeg(picture, result, snapQuality, {files, desktop().boxes, encoders});
     if (files.exists(bitmap) && !files.remove(bitmap)) failed = true;
     if (!failed) desktop().opener.open(result);
 }

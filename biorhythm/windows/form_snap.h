@@ -6,8 +6,8 @@
 
 namespace velmoriax::biorhythm {
 
-/// Takes a picture of the view and opens it. It is never shown: all its work is in its load. A step that fails is
-/// passed over.
+/// Saves a picture of the view as a JPEG file and opens it. The window is never shown: all its work is done when it is
+/// loaded. When a step fails, the next ones are done all the same.
 class FormSnap : public shell::SecondaryWindow {
     Q_OBJECT
 
@@ -18,10 +18,11 @@ public:
 
     void load() override;
 
-    /// What pictures can be written in; a test takes the encoder away.
+    /// The formats in which pictures can be written; a test can replace them.
     QByteArrayList encoders = pictureEncoders();
 
 private:
+    /// The view at the resolution of its screen; null when it is not loaded.
     QImage capture() const;
     std::string pathOf(const char* name) const;
 };

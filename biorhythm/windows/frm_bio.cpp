@@ -15,6 +15,7 @@
 #include "biorhythm/windows/form_snap.h"
 #include "biorhythm/windows/frm_compa_tab.h"
 #include "biorhythm/windows/frm_profiles.h"
+#include "biorhythm/windows/profile_combo.h"
 #include "biorhythm/windows/reading_arrows.h"
 #include "shell/windows/notifications.h"
 #include "shell/windows/secondary_window.h"
@@ -23,10 +24,8 @@
 #include "widgets/conversions.h"
 #include "widgets/look.h"
 
-#include <algorithm>
-
-/// The pictures lie in a static library: its resource has to be asked for by name, outside any namespace.
-static void openPictures() {
+/// The pictures are in a static library, whose resources are initialised by name and outside any namespace.
+static void initPictures() {
     Q_INIT_RESOURCE(bio_pictures);
 }
 
@@ -34,8 +33,8 @@ namespace velmoriax::biorhythm {
 
 namespace {
 
-constexpr int halfMinute = 30000;  ///< ms
-constexpr int timeCaptionHead = 6; ///< characters of "Time: "
+constexpr int halfMinute = 30000;    ///< ms
+constexpr int timeCaptionPrefix = 6; ///< characters of "Time: "
 
 std::array<CycleRow, cycleCount> cycleRows(const Ui::frmBio& ui) {
     return {{{*ui.NameFis, *ui.LabelFis, *ui.Fisascmini, *ui.Fisdescmini},
@@ -48,10 +47,11 @@ std::array<CycleRow, cycleCount> cycleRows(const Ui::frmBio& ui) {
 
 frmBio::frmBio(shell::WindowContext& context, BiorhythmState& biorhythms) :
     ModuleWindow(context, biorhythmsModule), biorhythms_(biorhythms), ui_(std::make_unique<Ui::frmBio>()) {
-    openPictures();
+    initPictures();
     ui_->setupUi(this);
     birthBoxes_ = std::make_unique<DateSpinBoxes>(*ui_->vsbDayBirth, *ui_->vsbMonthBirth, *ui_->vsbYearBirth);
     readingBoxes_ = std::make_unique<DateSpinBoxes>(*ui_->vsbDayBio, *ui_->vsbMonthBio, *ui_->vsbYearBio);
+    profiles_ = std::make_unique<ProfileCombo>(*ui_->ComboProfiles);
     arrows_ = new ReadingArrows(*ui_->CmdArrowLeft, *ui_->CmdArrowRight);
     setUpControls();
     buildNavigation();
@@ -76,16 +76,8 @@ void frmBio::setUpControls() {
 }
 
 void frmBio::connectDateBoxes() {
-    birthBoxes_->changed = [this](base::CivilDate date) {
-        view().manualDate = false;
-        view().birth.date = date;
-        calcBio();
-    };
-    readingBoxes_->changed = [this](base::CivilDate date) {
-        view().manualDate = true;
-        view().reading = date;
-        calcBio();
-    };
+    birthBoxes_->changed = [this](base::CivilDate date) { takeBirth(date); };
+    readingBoxes_->changed = [this](base::CivilDate date) { takeReading(date); };
     connect(&TimerBio_, &QTimer::timeout, this, [this] {
         if (halfHourIsOver(view())) calcBio();
     });
@@ -114,7 +106,8 @@ void frmBio::connectReading() {
     connect(ui_->CmdGo, &QPushButton::clicked, this, [this] { goToReading(withinView(view().finalDate)); });
     connect(ui_->DTPicker1, &QDateEdit::dateChanged, this, &frmBio::takeTarget);
     connect(arrows_, &ReadingArrows::held, this, [this] { view().manualDate = true; });
-    connect(arrows_, &ReadingArrows::stepped, this, &frmBio::stepReading);
+    connect(arrows_, &ReadingArrows::stepped, this,
+            [this](bool back) { goToReading(back ? dayBefore(view().reading) : dayAfter(view().reading)); });
 }
 
 void frmBio::connectProfiles() {
@@ -134,7 +127,7 @@ void frmBio::ownLoad() {
     showBirth();
     createProfileList(files);
     const auto names = biorhythm::profileNames(files);
-    fillProfiles(names, selectedAtLoad(names, options().leerPerfilBio()));
+    profiles_->fill(names, selectedAtLoad(names, options().leerPerfilBio()));
     readSecondProfile(files, options(), biorhythms_.second);
     showSecondAtLoad();
     calcBio();
@@ -177,36 +170,23 @@ void frmBio::show(const BioShown& shown) {
 }
 
 void frmBio::mschart() {
-    const auto profiles = static_cast<std::size_t>(ui_->ComboProfiles->count());
-    const base::CivilTime clock = base::civilTimeOf(desktop().clock.now());
+    const base::CivilMoment reading{view().reading, base::civilTimeOf(desktop().clock.now())};
     SecondProfile& second = biorhythms_.second;
-    ui_->MSChart1->showChart(biorhythm::mschart(biorhythms_.bio.lived, second, profiles, view().reading, clock));
-    if (!drawsSecond(second, profiles)) hideSecondName();
+    ui_->MSChart1->showChart(biorhythm::mschart(biorhythms_.bio.lived, second, profiles_->count(), reading));
+    if (!drawsSecond(second, profiles_->count())) hideSecondName();
 }
 
 QString frmBio::profileMainName() const {
-    return ui_->ComboProfiles->currentText();
+    return profiles_->profileMainName();
 }
 
 QStringList frmBio::profileNames() const {
-    QStringList names;
-    for (int i = 0; i < ui_->ComboProfiles->count(); ++i) names << ui_->ComboProfiles->itemText(i);
-    return names;
+    return profiles_->names();
 }
 
-void frmBio::listProfilesAnew() {
+void frmBio::reloadProfiles() {
     const auto names = biorhythm::profileNames(desktop().files);
-    fillProfiles(names, selectedAfterEdit(names, options().leerPerfilBio()));
-}
-
-void frmBio::fillProfiles(const std::vector<std::string>& names, std::optional<std::size_t> selected) {
-    QStringList texts;
-    for (const std::string& name : names) texts << widgets::qtText(name);
-    ui_->ComboProfiles->clear();
-    ui_->ComboProfiles->addItems(texts);
-    shownProfile_ = selected ? static_cast<int>(*selected) : -1;
-    ui_->ComboProfiles->setCurrentIndex(shownProfile_);
-    ui_->ComboProfiles->setVisible(!names.empty());
+    profiles_->fill(names, selectedAfterEdit(names, options().leerPerfilBio()));
 }
 
 void frmBio::showSecondName(const QString& name) {
@@ -238,24 +218,27 @@ void frmBio::takeTimeOfBirth() {
     ui_->LabelHoraBirth->setText(widgets::qtText(birthTimeCaption(view().birth.time)));
 }
 
-/// Until the next calculation the days are counted from today, and only then from the date of reading.
+void frmBio::takeBirth(base::CivilDate date) {
+    takeBirthDate(view(), date);
+    birthBoxes_->show(view().birth.date);
+    calcBio();
+}
+
+void frmBio::takeReading(base::CivilDate date) {
+    takeReadingDate(view(), date);
+    calcBio();
+}
+
+/// The days are counted from today until the next calculation, which counts them from the date of reading.
 void frmBio::takeTarget() {
     view().finalDate = widgets::civilDate(ui_->DTPicker1->date());
     setFinalDate(biorhythms_.bio, view().finalDate);
     ui_->LblRest->setNum(base::daysBetween(base::civilDateOf(desktop().clock.now()), view().finalDate));
 }
 
-/// The three spin boxes count as moved once, with the whole date: on the way from one month to another the day would
-/// pass through dates that nobody asked for.
+/// Sets the three spin boxes at once: one after the other they would pass through dates that the user did not choose.
 void frmBio::goToReading(base::CivilDate date) {
-    if (date == view().reading) return;
-    view().manualDate = true;
-    view().reading = date;
-    calcBio();
-}
-
-void frmBio::stepReading(bool back) {
-    goToReading(back ? stepBack(view().reading) : stepOn(view().reading));
+    if (date != view().reading) takeReading(date);
 }
 
 void frmBio::hideEvent(QHideEvent* event) {
@@ -265,32 +248,28 @@ void frmBio::hideEvent(QHideEvent* event) {
 
 void frmBio::pickProfile() {
     const std::string name = profileMainName().toStdString();
-    if (!biorhythm::pickProfile(desktop().files, options(), biorhythms_.bio, view(), name))
-        return ui_->ComboProfiles->setCurrentIndex(shownProfile_);
-    shownProfile_ = ui_->ComboProfiles->currentIndex();
+    if (!biorhythm::pickProfile(desktop().files, options(), view(), name)) return profiles_->undoChoice();
+    save();
+    profiles_->keepChoice();
     showBirth();
     calcBio();
     takeTimeOfBirth();
 }
 
 void frmBio::saveProfile() {
-    const std::string time = ui_->LabelHoraBirth->text().mid(timeCaptionHead).toStdString();
-    const auto name = biorhythm::saveProfile(desktop().files, desktop().boxes, options(), view().birth.date, time);
-    if (!name) return;
-    ui_->ComboProfiles->addItem(widgets::qtText(*name));
-    shownProfile_ = ui_->ComboProfiles->count() - 1;
-    ui_->ComboProfiles->setCurrentIndex(shownProfile_);
-    ui_->ComboProfiles->show();
+    const std::string time = ui_->LabelHoraBirth->text().mid(timeCaptionPrefix).toStdString();
+    const auto name = biorhythm::saveProfile(desktop().files, desktop().boxes, options(), {view().birth.date, time});
+    if (name) profiles_->append(*name);
 }
 
 void frmBio::editProfiles() {
     auto& list = windows().touch<FrmProfiles>();
-    list.ListaPerfiles(); // it may stand open from before
+    list.ListaPerfiles(); // for a window that is open already
     list.showNormalState();
 }
 
 void frmBio::compareProfiles() {
-    if (ui_->ComboProfiles->count() < 2)
+    if (profiles_->count() < 2)
         return desktop().boxes.show(platform::BoxIcon::warning, std::string(text::tooFewProfiles),
                                     std::string(text::errorInfoTitle));
     windows().touch<FrmCompaTab>().showNormalState();
@@ -301,26 +280,26 @@ void frmBio::takeSnapshot() {
     windows().unload(FormSnap::windowName);
 }
 
-void frmBio::notify(const std::function<void(const AlertOutlets&)>& tell) {
+void frmBio::withNotificationClosed(const std::function<void(const AlertOutlets&)>& show) {
     shell::closeNotification(context());
-    if (context().notification) tell({*context().notification, desktop().sounds});
+    if (context().notification) show({*context().notification, desktop().sounds});
 }
 
 void frmBio::alertByHand() {
     biorhythms_.alerts.manualAlert = true;
-    notify([this](const AlertOutlets& outlets) {
-        const AlertMoment moment{desktop().clock.now(), view().reading};
-        biorhythm::alertByHand(biorhythms_.alerts, biorhythms_.bio, options().holders.alertLevel, moment, outlets);
+    withNotificationClosed([this](const AlertOutlets& outlets) {
+        const AlertRun run{options().holders.alertLevel, desktop().clock.now(), view().reading};
+        biorhythm::alertByHand(biorhythms_.alerts, biorhythms_.bio, run, outlets);
     });
 }
 
 void frmBio::showHelp() {
     if (!helpIsDue(biorhythms_.alerts, biorhythms_.bio)) return;
-    notify([this](const AlertOutlets& outlets) { showHelpLines(biorhythms_.alerts, outlets); });
+    withNotificationClosed([this](const AlertOutlets& outlets) { showHelpLines(biorhythms_.alerts, outlets); });
 }
 
 bool frmBio::event(QEvent* event) {
-    // The slide lets events run: it is not to begin inside the activation.
+    // Not inside the activation: the slide of the notification processes events.
     if (event->type() == QEvent::WindowActivate) QTimer::singleShot(0, this, &frmBio::showHelp);
     return ModuleWindow::event(event);
 }
@@ -329,26 +308,30 @@ void frmBio::onMinimised(bool toSystray) {
     if (toSystray) shell::closeNotification(context());
 }
 
-/// What was set stands in the files as soon as the window is out of sight: tip and alerts count with it.
+/// Saved when the window is hidden, and not only when it is unloaded: tip and alerts then use what was set.
 void frmBio::onHidden() {
-    saveBioState(desktop().files, biorhythms_.bio, view().birth, view().finalDate);
+    save();
 }
 
 void frmBio::onUnload() {
-    unloadBeside();
+    unloadDependentWindows();
     biorhythms_.alerts.welcomeShown = false;
     biorhythms_.alerts.manualAlert = false;
+    save();
+}
+
+void frmBio::save() {
     saveBioState(desktop().files, biorhythms_.bio, view().birth, view().finalDate);
 }
 
-/// The windows that work on this one go with it. While they stood the next module could not add its icon; a hidden
-/// program would be out of reach.
-void frmBio::unloadBeside() {
-    const bool heldIconBack = state().noTrayAdd;
+/// The windows that work on this view are unloaded with it. As long as one of them was open the next module could not
+/// add its tray icon, without which a hidden program cannot be reached; so it adds the icon now.
+void frmBio::unloadDependentWindows() {
+    const bool iconWasHeldBack = state().noTrayAdd;
     for (const auto name : {FormMod::windowName, FrmProfiles::windowName, FrmCompaTab::windowName})
         windows().unload(name);
     shell::ModuleWindow* next = ModuleWindow::loadedIn(windows());
-    if (!heldIconBack || state().closingAll || next == this || !next) return;
+    if (!iconWasHeldBack || state().closingAll || next == this || !next) return;
     next->addTrayIcon();
 }
 

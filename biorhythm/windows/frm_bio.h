@@ -17,10 +17,11 @@ class frmBio;
 namespace velmoriax::biorhythm {
 
 class DateSpinBoxes;
+class ProfileCombo;
 class ReadingArrows;
 
-/// The Biorhythm view: birth, time of birth and date of reading on spin boxes; the four cycles as numbers, bars and
-/// chart.
+/// The Biorhythm view: birth date, time of birth and date of reading in spin boxes; the four cycles as numbers, bars
+/// and chart.
 class frmBio : public shell::ModuleWindow, public ProfileView {
     Q_OBJECT
 
@@ -35,7 +36,7 @@ public:
 
     QString profileMainName() const override;
     QStringList profileNames() const override;
-    void listProfilesAnew() override;
+    void reloadProfiles() override;
     void showSecondName(const QString& name) override;
     void hideSecondName() override;
     void mschart() override;
@@ -61,14 +62,14 @@ private:
     void showBirth();
     void showTimeControls(bool visible);
     void show(const BioShown& shown);
-    void fillProfiles(const std::vector<std::string>& names, std::optional<std::size_t> selected);
     void showSecondAtLoad();
 
     void askTimeOfBirth();
     void takeTimeOfBirth();
+    void takeBirth(base::CivilDate date);
+    void takeReading(base::CivilDate date);
     void takeTarget();
     void goToReading(base::CivilDate date);
-    void stepReading(bool back);
     void pickProfile();
     void saveProfile();
     void editProfiles();
@@ -77,16 +78,17 @@ private:
 
     void alertByHand();
     void showHelp();
-    void notify(const std::function<void(const AlertOutlets&)>& tell);
-    void unloadBeside();
+    void withNotificationClosed(const std::function<void(const AlertOutlets&)>& show);
+    void save();
+    void unloadDependentWindows();
 
     BiorhythmState& biorhythms_;
     std::unique_ptr<Ui::frmBio> ui_;
     std::unique_ptr<DateSpinBoxes> birthBoxes_;
     std::unique_ptr<DateSpinBoxes> readingBoxes_;
+    std::unique_ptr<ProfileCombo> profiles_;
     ReadingArrows* arrows_;
     QTimer TimerBio_{this};
-    int shownProfile_ = -1; ///< the entry of the profile list that was chosen last
 };
 
 } // namespace velmoriax::biorhythm

@@ -19,7 +19,8 @@ FrmCompaTab::FrmCompaTab(shell::WindowContext& context, BiorhythmState& biorhyth
     showLabels(firstCompatibilityLabels());
     connect(ui_->ListProfiles, &QListWidget::itemClicked, this, &FrmCompaTab::chooseProfile);
     connect(ui_->ListProfiles, &QListWidget::itemSelectionChanged, this, [this] {
-        const bool byKey = QGuiApplication::mouseButtons() == Qt::NoButton; // a click comes when the button goes up
+        const bool byKey =
+            QGuiApplication::mouseButtons() == Qt::NoButton; // a click is handled when the button is released
         if (byKey && !chosenName().isEmpty()) chooseProfile();
     });
     connect(ui_->CheckPlot, &QCheckBox::toggled, this, &FrmCompaTab::plotToggled);
@@ -28,26 +29,30 @@ FrmCompaTab::FrmCompaTab(shell::WindowContext& context, BiorhythmState& biorhyth
 
 FrmCompaTab::~FrmCompaTab() = default;
 
-ProfileView& FrmCompaTab::view() const {
-    return *windows().loaded<ProfileView>();
-}
-
 void FrmCompaTab::load() {
+    const ProfileView* view = windows().loaded<ProfileView>();
+    if (!view) return unload();
     state().noTrayAdd = true;
     centreOverModule();
-    ui_->LabelProMain->setText(QStringLiteral("Main profile: ") + view().profileMainName());
-    {
-        const QSignalBlocker quiet(ui_->ListProfiles);
-        ui_->ListProfiles->addItems(view().profileNames());
-    }
+    listProfiles(*view);
     const QSignalBlocker quiet(ui_->CheckPlot);
     ui_->CheckPlot->setChecked(options().leerDibujarSecundario() == "1");
     takeMainCycles(compatibility_, biorhythms_.bio.cycle);
+    chooseStoredProfile();
+}
+
+void FrmCompaTab::listProfiles(const ProfileView& view) {
+    ui_->LabelProMain->setText(QStringLiteral("Main profile: ") + view.profileMainName());
+    const QSignalBlocker quiet(ui_->ListProfiles);
+    ui_->ListProfiles->addItems(view.profileNames());
+}
+
+void FrmCompaTab::chooseStoredProfile() {
     const QString stored = widgets::qtText(options().leerNombreSecundario());
     const auto found = ui_->ListProfiles->findItems(stored, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (found.isEmpty()) return;
     {
-        const QSignalBlocker quietToo(ui_->ListProfiles);
+        const QSignalBlocker quiet(ui_->ListProfiles);
         ui_->ListProfiles->setCurrentItem(found.last());
     }
     chooseProfile();
@@ -57,16 +62,22 @@ void FrmCompaTab::onUnload() {
     state().noTrayAdd = false;
 }
 
+/// Empty when the view is not loaded.
+QString FrmCompaTab::profileMainName() const {
+    const ProfileView* view = windows().loaded<ProfileView>();
+    return view ? view->profileMainName() : QString();
+}
+
 QString FrmCompaTab::chosenName() const {
     const auto chosen = ui_->ListProfiles->selectedItems();
     return chosen.isEmpty() ? QString() : chosen.first()->text();
 }
 
 bool FrmCompaTab::mainIsChosen() const {
-    return chosenName() == view().profileMainName();
+    return chosenName() == profileMainName();
 }
 
-/// A person is known by name: another one of the main profile's name is taken for the same.
+/// People are identified by name: another person of the main profile's name counts as the main one.
 void FrmCompaTab::chooseProfile() {
     showResults(!mainIsChosen());
     if (mainIsChosen())
@@ -74,14 +85,11 @@ void FrmCompaTab::chooseProfile() {
                                     std::string(text::errorInfoTitle));
     const std::string name = chosenName().toStdString();
     const bool readable = loadSecondProfile(desktop().files, name, biorhythms_.second);
-    if (!readable) return showResults(false); // nobody's figures are to stand under this name
+    if (!readable) return showResults(false); // the figures shown are another person's
     compare();
     storeSecondName(options(), biorhythms_.second, name);
-    if (ui_->CheckPlot->isChecked())
-        view().showSecondName(chosenName());
-    else
-        view().hideSecondName();
-    view().mschart();
+    showSecondName(ui_->CheckPlot->isChecked(), chosenName());
+    drawChart();
     turnTo(ui_->SSTab1->currentIndex());
 }
 
@@ -111,7 +119,7 @@ void FrmCompaTab::turnTo(int tab) {
         close();
         return;
     }
-    const std::string main = view().profileMainName().toStdString();
+    const std::string main = profileMainName().toStdString();
     const SecondProfile& second = biorhythms_.second;
     const base::CivilTime clock = base::civilTimeOf(desktop().clock.now());
     ui_->LabelInfo->setText(widgets::qtText(
@@ -124,11 +132,20 @@ void FrmCompaTab::plotToggled(bool checked) {
     if (mainIsChosen()) return;
     SecondProfile& second = biorhythms_.second;
     storeDrawSecond(options(), second, checked);
-    if (!checked)
-        view().hideSecondName();
-    else if (!second.profileSecondName.empty())
-        view().showSecondName(widgets::qtText(second.profileSecondName));
-    view().mschart();
+    const QString name = widgets::qtText(second.profileSecondName);
+    if (!checked || !name.isEmpty()) showSecondName(checked, name);
+    drawChart();
+}
+
+void FrmCompaTab::showSecondName(bool visible, const QString& name) {
+    ProfileView* view = windows().loaded<ProfileView>();
+    if (!view) return;
+    if (visible) return view->showSecondName(name);
+    view->hideSecondName();
+}
+
+void FrmCompaTab::drawChart() {
+    if (ProfileView* view = windows().loaded<ProfileView>()) view->mschart();
 }
 
 } // namespace velmoriax::biorhythm

@@ -15,8 +15,8 @@ namespace velmoriax::biorhythm {
 
 class ProfileView;
 
-/// Compares the main profile with a second one, at this moment and for good, and decides whether the chart of the view
-/// draws the second one.
+/// Compares the main profile with a second one, on the date of reading and for all time, and sets whether the chart of
+/// the view draws the second one.
 class FrmCompaTab : public shell::SecondaryWindow {
     Q_OBJECT
 
@@ -34,16 +34,20 @@ protected:
 private:
     enum Tab { actualTab, generalTab, exitTab };
 
-    ProfileView& view() const;
+    QString profileMainName() const;
     QString chosenName() const;
     bool mainIsChosen() const;
 
+    void listProfiles(const ProfileView& view);
+    void chooseStoredProfile();
     void chooseProfile();
     void showResults(bool visible);
     void compare();
     void showLabels(const CompatibilityLabels& labels);
     void turnTo(int tab);
     void plotToggled(bool checked);
+    void showSecondName(bool visible, const QString& name);
+    void drawChart();
 
     BiorhythmState& biorhythms_;
     std::unique_ptr<Ui::FrmCompaTab> ui_;

@@ -39,7 +39,8 @@ void FrmProfiles::ListaPerfiles() {
 }
 
 std::string FrmProfiles::selectedRecord() const {
-    // Not the current one: the list makes its first entry current when it gets the focus, which chooses nobody.
+    // Not the current entry: the list makes its first one current when it gets the focus, without any choice of the
+    // user.
     const auto chosen = ui_->ListProfiles->selectedItems();
     return chosen.isEmpty() ? std::string() : chosen.first()->text().toStdString();
 }
@@ -56,9 +57,9 @@ void FrmProfiles::modifyRecord() {
     windows().touch<FormMod>().showNormalState();
 }
 
-/// Only this way out brings the list of the view up to date; the close box leaves it as it is.
+/// Only this button updates the list of the view; the close box of the window does not.
 void FrmProfiles::exit() {
-    if (ProfileView* view = windows().loaded<ProfileView>()) view->listProfilesAnew();
+    if (ProfileView* view = windows().loaded<ProfileView>()) view->reloadProfiles();
     close();
 }
 

@@ -13,7 +13,7 @@ class FrmProfiles;
 
 namespace velmoriax::biorhythm {
 
-/// The records of the profile list as they stand in the file, to be deleted or modified.
+/// Lists the lines of the profile file, of which the user can delete or modify one.
 class FrmProfiles : public shell::SecondaryWindow, public ProfileList {
     Q_OBJECT
 

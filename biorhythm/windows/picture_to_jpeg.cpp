@@ -26,16 +26,15 @@ QByteArray pictureBytes(const QImage& picture, const char* format, int quality) 
     return picture.save(&buffer, format, quality) ? bytes : QByteArray();
 }
 
-bool savePictureAsJpeg(const QImage& picture, platform::Files& files, platform::MessageBoxes& boxes,
-                       const std::string& path, int quality, const QByteArrayList& encoders) {
+bool savePictureAsJpeg(const QImage& picture, const std::string& path, int quality, const JpegSaving& saving) {
     constexpr int bestQuality = 100;
     if (picture.isNull()) return false;
-    if (!encoderClsidFromMime("image/jpeg", encoders)) {
-        boxes.show(platform::BoxIcon::none, std::string(text::noEncoder), std::string(text::encoderErrorTitle));
+    if (!encoderClsidFromMime("image/jpeg", saving.encoders)) {
+        saving.boxes.show(platform::BoxIcon::none, std::string(text::noEncoder), std::string(text::encoderErrorTitle));
         return false;
     }
     const QByteArray bytes = pictureBytes(picture, "JPG", std::min(quality, bestQuality));
-    return !bytes.isEmpty() && files.replace(path, bytes.toStdString());
+    return !bytes.isEmpty() && saving.files.replace(path, bytes.toStdString());
 }
 
 } // namespace velmoriax::biorhythm

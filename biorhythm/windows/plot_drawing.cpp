@@ -11,7 +11,7 @@ namespace {
 
 namespace look = widgets::look;
 
-constexpr double highest = 1.12; ///< of the value axis: a line at its peak keeps its whole width
+constexpr double highest = 1.12; ///< of the value axis; above 1, so that a line at 1 is drawn with its whole width
 constexpr double rowCount = chartRowCount;
 
 QColor faint(QColor colour, int alpha) {
@@ -19,7 +19,7 @@ QColor faint(QColor colour, int alpha) {
     return colour;
 }
 
-void dressAxis(QCPAxis& axis, const QFont& font) {
+void styleAxis(QCPAxis& axis, const QFont& font) {
     axis.setBasePen(QPen(widgets::look::quietText(), 0));
     axis.setTickPen(Qt::NoPen);
     axis.setSubTickPen(Qt::NoPen);
@@ -29,7 +29,7 @@ void dressAxis(QCPAxis& axis, const QFont& font) {
     axis.grid()->setZeroLinePen(QPen(faint(widgets::look::ivory(), 150), 0));
 }
 
-/// The plot itself, with one graph a series.
+/// The plot, with one graph for each series.
 class Drawing : public QCustomPlot, public PlotDrawing {
 public:
     explicit Drawing(QWidget* parent);
@@ -54,7 +54,7 @@ Drawing::Drawing(QWidget* parent) : QCustomPlot(parent) {
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setBackground(widgets::look::ground());
-    axisRect()->setBackground(plotGround());
+    axisRect()->setBackground(plotBackground());
     axisRect()->setMinimumMargins(QMargins(0, 2, 2, 0));
     addRows();
     addSides();
@@ -66,7 +66,7 @@ Drawing::Drawing(QWidget* parent) : QCustomPlot(parent) {
 void Drawing::addRows() {
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
-    dressAxis(*xAxis, small);
+    styleAxis(*xAxis, small);
     xAxis->setTicker(rows_);
     xAxis->setRange(0.4, rowCount + 0.6);
 }
@@ -74,7 +74,7 @@ void Drawing::addRows() {
 void Drawing::addSides() {
     const QSharedPointer<QCPAxisTickerText> sides(new QCPAxisTickerText);
     sides->addTicks({{1.0, QStringLiteral("High")}, {0.0, QStringLiteral("Critical")}, {-1.0, QStringLiteral("Low")}});
-    dressAxis(*yAxis, font());
+    styleAxis(*yAxis, font());
     yAxis->setTicker(sides);
     yAxis->setRange(-highest, highest);
 }
@@ -116,7 +116,7 @@ void Drawing::addSeries() {
     new CycleBadges(*this, series_);
 }
 
-/// The second profile's series leave chart and legend when they are not drawn.
+/// Hides the second profile's series in chart and legend when they are not drawn.
 void Drawing::showSeriesCount(std::size_t count) {
     if (count == shown_) return;
     shown_ = count;
@@ -130,7 +130,7 @@ void Drawing::show(const ChartData& chart) {
     rows_->clear();
     for (std::size_t row = 0; row < chartRowCount; ++row)
         rows_->addTick(static_cast<double>(row + 1), QString::number(chart.rowLabels[row]));
-    for (std::size_t i = 0; i < chart.seriesCount; ++i) series_[i]->take(chart);
+    for (std::size_t i = 0; i < chart.seriesCount; ++i) series_[i]->showColumnOf(chart);
     replot(QCustomPlot::rpQueuedReplot);
 }
 
@@ -138,7 +138,7 @@ void Drawing::show(const ChartData& chart) {
 
 } // namespace velmoriax::biorhythm
 
-/// The one entry of the library: a drawing that its parent owns.
+/// The only function that the library exports: creates a drawing, which its parent owns.
 extern "C" velmoriax::biorhythm::PlotDrawing* velmoriaxPlotDrawing(QWidget* parent) {
     return new velmoriax::biorhythm::Drawing(parent);
 }

@@ -9,8 +9,8 @@ class QWidget;
 
 namespace velmoriax::biorhythm {
 
-/// What draws the chart. It comes from a library of its own, since the chart library is large and only the biorhythm
-/// view needs it.
+/// Draws the chart. The class that does it is in a library that is loaded with the Biorhythm view, because it uses the
+/// large chart library, which nothing else needs.
 class PlotDrawing {
 public:
     virtual ~PlotDrawing() = default;
@@ -19,8 +19,8 @@ public:
     virtual QWidget& widget() = 0;
 };
 
-/// Loads the drawing's library from the folder of the program's libraries and makes a drawing that lives as long as its
-/// parent. Throws base::RunTimeError when the library is missing.
+/// Loads that library from the folder of plugins and creates a drawing, which its parent owns. Throws
+/// base::RunTimeError when the library is missing.
 PlotDrawing& loadPlotDrawing(const std::string& pluginFolder, QWidget& parent);
 
 } // namespace velmoriax::biorhythm

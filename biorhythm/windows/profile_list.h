@@ -6,17 +6,17 @@
 
 namespace velmoriax::biorhythm {
 
-/// The profile list, as the editor beside it sees it.
+/// What the record editor needs of the list of profiles.
 class ProfileList {
 public:
     static constexpr std::string_view windowName = "FrmProfiles";
 
     virtual ~ProfileList() = default;
 
-    /// The chosen line as the list shows it, empty when none is chosen.
+    /// The selected line, unchanged; empty when none is selected.
     virtual std::string selectedRecord() const = 0;
 
-    /// Reads the list anew.
+    /// Reads the file again and shows its lines.
     virtual void ListaPerfiles() = 0;
 };
 

@@ -9,27 +9,28 @@
 
 namespace velmoriax::biorhythm {
 
-/// The Biorhythm view, as the windows beside it see and change it.
+/// What the other windows of the biorhythms need of the Biorhythm view.
 class ProfileView {
 public:
     static constexpr std::string_view windowName = "frmBio";
 
     virtual ~ProfileView() = default;
 
-    /// The text of the profile list: the main profile's name.
+    /// The main profile's name, as the list of names shows it; empty when none is selected.
     virtual QString profileMainName() const = 0;
     virtual QStringList profileNames() const = 0;
 
-    /// Fills the profile list anew after the file was edited. The person shown stays.
-    virtual void listProfilesAnew() = 0;
+    /// Reads the names from the file again after it was edited. The dates of the view are not changed.
+    virtual void reloadProfiles() = 0;
 
+    /// Show the second profile's name, or hide it.
     virtual void showSecondName(const QString& name) = 0;
     virtual void hideSecondName() = 0;
 
-    /// Draws the chart alone, for the age that was computed last.
+    /// Draws only the chart, for the age that was computed last.
     virtual void mschart() = 0;
 
-    /// The view in the pixels of its screen.
+    /// A picture of the view at the resolution of its screen.
     virtual QImage picture() = 0;
 };
 

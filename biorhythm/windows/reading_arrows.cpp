@@ -12,10 +12,11 @@ constexpr int tickMs = 100;
 
 } // namespace
 
-ReadingArrows::ReadingArrows(QToolButton& left, QToolButton& right) : QObject(left.parentWidget()), left_(left) {
+ReadingArrows::ReadingArrows(QToolButton& left, QToolButton& right) : QObject(left.parentWidget()) {
     for (QToolButton* arrow : {&left, &right}) {
-        connect(arrow, &QToolButton::pressed, this, &ReadingArrows::hold);
-        connect(arrow, &QToolButton::released, this, [this, arrow] { release(arrow == &left_); });
+        const bool isLeft = arrow == &left;
+        connect(arrow, &QToolButton::pressed, this, [this, isLeft] { press(isLeft); });
+        connect(arrow, &QToolButton::released, this, [this, isLeft] { release(isLeft); });
         arrow->installEventFilter(this);
     }
     TimerButton_.setObjectName(QStringLiteral("TimerButton"));
@@ -24,28 +25,26 @@ ReadingArrows::ReadingArrows(QToolButton& left, QToolButton& right) : QObject(le
 }
 
 void ReadingArrows::stop() {
+    arrowLeftDown_ = arrowRightDown_ = false;
     TimerButton_.stop();
 }
 
-void ReadingArrows::hold() {
+void ReadingArrows::press(bool left) {
+    (left ? arrowLeftDown_ : arrowRightDown_) = true;
     hasStepped_ = false;
     TimerButton_.start();
     Q_EMIT held();
 }
 
-void ReadingArrows::release(bool back) {
-    const bool wasHeld = TimerButton_.isActive();
+void ReadingArrows::release(bool left) {
+    const bool wasHeld = left ? arrowLeftDown_ : arrowRightDown_;
     stop();
-    if (wasHeld && !hasStepped_) Q_EMIT stepped(back);
-}
-
-bool ReadingArrows::arrowLeftDown() const {
-    return left_.isDown();
+    if (wasHeld && !hasStepped_) Q_EMIT stepped(left);
 }
 
 void ReadingArrows::repeat() {
     hasStepped_ = true;
-    Q_EMIT stepped(arrowLeftDown());
+    Q_EMIT stepped(arrowLeftDown_);
 }
 
 bool ReadingArrows::eventFilter(QObject* watched, QEvent* event) {

@@ -7,15 +7,16 @@ class QToolButton;
 
 namespace velmoriax::biorhythm {
 
-/// The two arrows that move the date of reading. One that is held steps ten times a second; a click that is over before
-/// the first tick makes its step as well. The left and right key step from either arrow.
+/// The two arrows that change the date of reading by a day. An arrow that is held steps ten times a second; a click
+/// that ends before the first tick makes one step. The left and the right key make a step too when either arrow has the
+/// focus.
 class ReadingArrows : public QObject {
     Q_OBJECT
 
 public:
     ReadingArrows(QToolButton& left, QToolButton& right);
 
-    /// Stops an arrow that is held. The mouse may be released when the window is out of sight, and nobody tells then.
+    /// Ends the steps of an arrow that is held. A hidden window is not informed that the mouse was released.
     void stop();
 
 Q_SIGNALS:
@@ -26,14 +27,14 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void hold();
-    void release(bool back);
+    void press(bool left);
+    void release(bool left);
     void repeat();
-    bool arrowLeftDown() const; ///< the left one is held; else, while the timer runs, the right one
 
-    QToolButton& left_;
     QTimer TimerButton_{this};
-    bool hasStepped_ = false; ///< the arrow that is held has made a step already
+    bool arrowLeftDown_ = false;
+    bool arrowRightDown_ = false;
+    bool hasStepped_ = false; ///< the arrow that is held has made a step
 };
 
 } // namespace velmoriax::biorhythm

@@ -11,7 +11,7 @@
 namespace velmoriax::biorhythm {
 namespace {
 
-/// Emotional at -9.74 % and falling, and nothing else to tell; a day later nothing at all.
+/// Emotional is at -9.74 % and falling; there is no other message. A day later there is none at all.
 const base::DateValue critical = base::dateValueOf({2026, 6, 20}, {18, 30, 0});
 const base::DateValue quiet = critical + 1;
 
@@ -29,11 +29,11 @@ struct AlertEngine : testing::Test {
     }
 
     void run(std::string_view level, base::DateValue now) {
-        alertasbio(record, state, level, {now, base::civilDateOf(now)}, {notification, sounds});
+        alertasbio(alerts, state, {level, now, base::civilDateOf(now)}, {notification, sounds});
     }
 
     BioState state;
-    AlertState record;
+    AlertState alerts;
     test::FakeNotification notification;
     test::FakeSounds sounds;
 };
@@ -44,11 +44,11 @@ TEST(AlertMessages, BeginAPhaseAtATurningPointWithItsTies) {
     };
     EXPECT_EQ(phase(-1, -1, -0.99F), "Your emotional cycle begins an ascending phase!");
     EXPECT_EQ(phase(1, 1, 0.99F), "Your emotional cycle begins a descending phase!");
-    EXPECT_EQ(phase(0.98F, 1, 1), "") << "the turn comes with the next hour";
-    EXPECT_EQ(joinAlertTexts({"a", "", "b", ""}), "a\r\nb");
+    EXPECT_EQ(phase(0.98F, 1, 1), "") << "the turn is after the next hour";
+    EXPECT_EQ(phaseMessagesJoined({"a", "", "b", ""}), "a\r\nb");
 }
 
-TEST(AlertMessages, NameTheFirstCriticalCycleThatMoves) {
+TEST(AlertMessages, NameTheFirstCriticalCycleThatChanges) {
     const auto critical = [](CycleValues now, CycleValues next) { return criticalMessage({{}, now, next}); };
     EXPECT_EQ(critical({0.05F, 0.01F, 1, 1}, {0.04F, 0.02F, 1, 1}),
               "Your physical cycle enter in a critical period and advance toward a passive phase, so take it easy!");
@@ -60,10 +60,10 @@ TEST(AlertMessages, NameTheFirstCriticalCycleThatMoves) {
         critical({-0.1F, 0, std::nextafter(-0.1F, 0.0F), 1}, {0, 0, 0, 1}),
         "Your intellectual cycle enter in a critical period and advance toward an active phase, mind begins to be "
         "in form!")
-        << "the next number is, and a cycle that stands still is passed over";
+        << "the next number is, and a cycle that does not change is skipped";
 }
 
-TEST(AlertMessages, SetThePresentOfACycleAgainstTheOthersNextHour) {
+TEST(AlertMessages, CompareACyclesPresentValueWithTheOthersNext) {
     const auto crossing = [](CycleValues now, CycleValues next) { return crossingMessage({{}, now, next}); };
     EXPECT_EQ(crossing({0.50F, 0, 0.505F, 0}, {0.51F, 0, 0.495F, 0}),
               "Crossing upward physical cycle to intellectual, the brute force imposes over mind!");
@@ -136,19 +136,19 @@ TEST_F(AlertEngine, ReportsEachTurningPointOfTenYearsOnceAndInItsHour) {
 
 TEST_F(AlertEngine, OpensAtStartByHandAndOnANewKeyAlone) {
     run("zero", critical);
-    EXPECT_EQ(state.lived, 0) << "on level zero not even the computation is made";
+    EXPECT_EQ(state.lived, 0) << "on level zero nothing is computed";
     run("solo", critical);
-    EXPECT_TRUE(notification.texts.empty()) << "solo says nothing on a tick";
-    record.startupAlert = true;
+    EXPECT_TRUE(notification.texts.empty()) << "solo shows nothing on a tick";
+    alerts.startupAlert = true;
     run("solo", critical);
     run("zero", critical);
     EXPECT_EQ(notification.texts.size(), 1U);
-    record.startupAlert = false;
+    alerts.startupAlert = false;
     EXPECT_TRUE(notification.texts.back().starts_with("Physical: ")) << "without the rule of hyphens";
     run("bas3", critical);
     EXPECT_EQ(notification.texts.size(), 1U) << "the start kept the key";
     run("bas3", quiet);
-    EXPECT_EQ(notification.texts.size(), 2U) << "the end of a critical period is told by the value lines";
+    EXPECT_EQ(notification.texts.size(), 2U) << "the end of a critical period is shown by the value lines";
     run("bas3", quiet);
     EXPECT_EQ(notification.texts.size(), 2U);
     notification.open = notification.opens = false;
@@ -159,40 +159,41 @@ TEST_F(AlertEngine, OpensAtStartByHandAndOnANewKeyAlone) {
                                          "---------------------------------------------\r\n"
                                          "Physical: -97.53 % (falling)\r\nEmotional: -9.74 % (falling)\r\n"
                                          "Intellectual: 44.72 % (rising)\r\nIntuitive: -94.23 % (falling)");
-    EXPECT_EQ(sounds.played, std::vector<std::string>(2, "Url.wav")) << "silent when the window does not stand";
+    EXPECT_EQ(sounds.played, std::vector<std::string>(2, "Url.wav")) << "no sound when the notification is not open";
 }
 
-TEST_F(AlertEngine, StandsByHandOnTheDateOfTheView) {
+TEST_F(AlertEngine, UsesTheDateOfTheViewWhenRunByHand) {
     const AlertOutlets outlets{notification, sounds};
     const base::DateValue now = base::dateValueOf({2026, 11, 15}, {18, 30, 0});
-    alertByHand(record, state, "zero", {now, {2026, 6, 20}}, outlets);
+    alertByHand(alerts, state, {"zero", now, {2026, 6, 20}}, outlets);
     EXPECT_NE(notification.texts.back().find("Emotional: -9.74 % (falling)"), std::string::npos);
-    EXPECT_EQ(record.lastAlertKey, "") << "a run by hand leaves the key alone";
+    EXPECT_EQ(alerts.lastAlertKey, "") << "a run by hand leaves the key alone";
     state = {};
-    record = {};
+    alerts = {};
     run("maxi", now);
     EXPECT_EQ(notification.texts.size(), 1U) << "without a birth date";
-    EXPECT_TRUE(helpIsDue(record, state));
-    alertByHand(record, state, "maxi", {now, {2026, 6, 20}}, outlets);
+    EXPECT_TRUE(helpIsDue(alerts, state));
+    alertByHand(alerts, state, {"maxi", now, {2026, 6, 20}}, outlets);
     const std::string help = "- Insert the birth date to calculate biorhythms\r\n"
                              "- In options you can change the level of alerts\r\n"
                              "- Biorhythms will update every 30 minutes";
     EXPECT_EQ(notification.texts.back(), help);
     setBirthDate(state, {1980, 3, 15});
     run("solo", now);
-    EXPECT_EQ(notification.texts.back(), help + valueLines(state)) << "solo builds no head: it adds to what stands";
+    EXPECT_EQ(notification.texts.back(), help + valueLines(state))
+        << "solo has no head: it adds to the text that is there";
 }
 
-TEST_F(AlertEngine, TakesTheTipsBirthDateFromTheFileAndItsTimeFromTheRecord) {
+TEST_F(AlertEngine, TakesTheTipsBirthDateFromTheFileAndItsTimeFromTheState) {
     test::FakeFiles files;
-    EXPECT_THROW(biotip(files, state, record, 0), base::RunTimeError);
+    EXPECT_THROW(biotip(files, state, alerts, 0), base::RunTimeError);
     createMissingProfileFiles(files);
-    record.bioTipText = "as before";
-    biotip(files, state, record, critical);
-    EXPECT_EQ(record.bioTipText, "as before");
+    alerts.bioTipText = "as before";
+    biotip(files, state, alerts, critical);
+    EXPECT_EQ(alerts.bioTipText, "as before");
     files.at("\\bio.dat") = "15,3,1980\r\n";
-    biotip(files, state, record, critical);
-    EXPECT_EQ(record.bioTipText, "Biorhythms (avg.): -39.20 % (<)") << "born at 7:45, not at the file's 12:00";
+    biotip(files, state, alerts, critical);
+    EXPECT_EQ(alerts.bioTipText, "Biorhythms (avg.): -39.20 % (<)") << "born at 7:45, not at the file's 12:00";
 }
 
 } // namespace

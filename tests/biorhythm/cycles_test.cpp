@@ -15,7 +15,7 @@ BioState computed(const base::CivilMoment& birth, base::CivilDate reading, base:
     return state;
 }
 
-TEST(CycleEngine, FollowsAKnownLifeToTheLastBit) {
+TEST(CycleEngine, ComputesAKnownLifeToTheLastBit) {
     const BioState state = computed({{1980, 3, 15}, {7, 45, 0}}, {2026, 6, 20}, {18, 30, 59});
     EXPECT_EQ(state.wholeDays, 16897);
     EXPECT_EQ(state.minutesLeftAtBirth, 975);
@@ -29,7 +29,7 @@ TEST(CycleEngine, FollowsAKnownLifeToTheLastBit) {
     EXPECT_EQ(averageLine(state), "-39.20% (negative: bad day)");
 }
 
-TEST(CycleEngine, CountsTheAgeThroughTheMinutesOfTheDayOfBirth) {
+TEST(CycleEngine, CountsTheDayOfBirthByItsMinutes) {
     const base::CivilMoment noon{{2000, 2, 28}, {12, 0, 0}};
     const BioState atBirth = computed(noon, noon.date, noon.time);
     EXPECT_EQ(atBirth.wholeDays, -1);
@@ -45,9 +45,9 @@ TEST(CycleEngine, CountsTheAgeThroughTheMinutesOfTheDayOfBirth) {
 TEST(CycleEngine, RatesThePrintedAverageByTheBandsAndTheirEdges) {
     const test::Table<double, const char*, const char*> rows{
         {-100, "(negative: dreadful day)", "the low end"},
-        {-80.004, "(negative: super bad day)", "prints as -80.00, which opens the band"},
+        {-80.004, "(negative: super bad day)", "is printed as -80.00, the lower bound of the band"},
         {-20, "(negative: regular or critical day)", "lower bounds belong to their band"},
-        {-0.004, "(positive: regular or critical day)", "prints as 0.00"},
+        {-0.004, "(positive: regular or critical day)", "is printed as 0.00"},
         {40, "(positive: very good day)", "an upper bound that its band excludes"},
         {60, "(positive: very good day)", "an upper bound that its band includes"},
         {100, "(positive: excellent day)", "the high end"},
@@ -74,40 +74,40 @@ TEST(BioGauge, ShowsTheAverageOfTodayInFullPrecision) {
     setBirthTime(state, {12, 0, 0});
     const shell::AverageGauge newborn = drawBioMedia(state, base::dateValueOf({1980, 3, 15}, {12, 0, 0}));
     EXPECT_EQ(newborn.value, 0.0F);
-    EXPECT_EQ(newborn.colour, pureGreen) << "a bar of no height is a green one";
+    EXPECT_EQ(newborn.colour, pureGreen) << "an average of zero is positive";
     EXPECT_EQ(newborn.trend, shell::Trend::rising);
     EXPECT_EQ(trendOf(0.5F, 0.5F), shell::Trend::level);
 }
 
-TEST(Compatibility, ComparesBirthsForGood) {
-    Compatibility record;
-    const CompatibilityLabels labels = showGeneral(record, {1980, 3, 15}, {1980, 1, 1});
+TEST(Compatibility, ComparesTheDaysBetweenTwoBirths) {
+    Compatibility result;
+    const CompatibilityLabels labels = showGeneral(result, {1980, 3, 15}, {1980, 1, 1});
     EXPECT_EQ(labels.cycles[physical], "Physical: 56.52 %");
     EXPECT_EQ(labels.cycles[emotional], "Emotional: 28.57 %");
     EXPECT_EQ(labels.cycles[intuition], "Intuition: 89.47 %");
     EXPECT_EQ(labels.mean, "Mean (Physi + Emo + Intell + Intui): 56.52 % (little affinity)");
-    EXPECT_EQ(showGeneral(record, {1980, 1, 1}, {1980, 3, 15}).mean, labels.mean) << "the order does not matter";
-    EXPECT_EQ(showGeneral(record, {1980, 1, 1}, {1980, 1, 1}).mean,
+    EXPECT_EQ(showGeneral(result, {1980, 1, 1}, {1980, 3, 15}).mean, labels.mean) << "the order does not matter";
+    EXPECT_EQ(showGeneral(result, {1980, 1, 1}, {1980, 1, 1}).mean,
               "Mean (Physi + Emo + Intell + Intui): 100.00 % (excellent attuned)");
-    EXPECT_EQ(showGeneral(record, {1980, 1, 1}, {1980, 1, 12}).cycles[physical], "Physical: 4.35 %")
+    EXPECT_EQ(showGeneral(result, {1980, 1, 1}, {1980, 1, 12}).cycles[physical], "Physical: 4.35 %")
         << "an odd period has no exact half";
     const base::CivilDate farAway = base::civilDateOfDay(base::dayNumber({1900, 1, 1}) + 23 * 1748);
-    EXPECT_EQ(showGeneral(record, {1900, 1, 1}, farAway).cycles[physical], "Physical: 100.00 %") << "beyond 16 bits";
+    EXPECT_EQ(showGeneral(result, {1900, 1, 1}, farAway).cycles[physical], "Physical: 100.00 %") << "beyond 16 bits";
 }
 
 TEST(Compatibility, AveragesThePresentValues) {
     const base::CivilMoment birth{{1980, 3, 15}, {7, 45, 0}};
-    SecondProfile second{"Ann's twin", false, birth.date, birth.time, 0};
-    Compatibility record;
-    takeMainCycles(record, cyclesAt(livedOf(birth, {2026, 6, 20}, {18, 30, 0}).lived));
-    CompatibilityLabels labels = showActual(record, second, {2026, 6, 20}, {18, 30, 0});
+    SecondProfile second{.profileSecondName = "Ann's twin", .secondDate = birth.date, .secondTime = birth.time};
+    Compatibility result;
+    takeMainCycles(result, cyclesAt(livedOf(birth, {2026, 6, 20}, {18, 30, 0}).lived));
+    CompatibilityLabels labels = showActual(result, second, {2026, 6, 20}, {18, 30, 0});
     EXPECT_EQ(labels.cycles[intellectual], "Intellectual: 72.36 %") << "of a sine of 0.4471822, twice";
     EXPECT_EQ(labels.cycles[emotional], "Emotional: 45.13 %");
-    EXPECT_EQ(record.levelWord, "few affinity") << labels.mean;
-    record.mainPercent.fill(50);
+    EXPECT_EQ(result.levelWord, "few affinity") << labels.mean;
+    result.mainPercent.fill(50);
     second.secondTime = {18, 30, 0};
-    labels = showActual(record, second, birth.date, {18, 30, 0});
-    EXPECT_EQ(labels.cycles[physical], "Physical: 50 %") << "no decimals that the number does not have";
+    labels = showActual(result, second, birth.date, {18, 30, 0});
+    EXPECT_EQ(labels.cycles[physical], "Physical: 50 %") << "only the decimals that the number has";
     EXPECT_EQ(labels.mean, "Mean (Physi + Emo + Intell + Intui): 50.00 % (little affinity)");
 }
 
@@ -116,11 +116,11 @@ TEST(Compatibility, NamesTheLevelByItsLowerBound) {
         {0, "practically nothing"}, {20, "few affinity"},      {40, "little affinity"},    {60, "much affinity"},
         {79.996F, "much affinity"}, {80, "excellent attuned"}, {100, "excellent attuned"}, {100.1F, "as before"}};
     for (const auto& [mean, word] : rows) {
-        Compatibility record;
-        record.levelWord = "as before";
-        record.meanPercent = mean;
-        Niveles(record);
-        EXPECT_EQ(record.levelWord, word) << mean;
+        Compatibility result;
+        result.levelWord = "as before";
+        result.meanPercent = mean;
+        Niveles(result);
+        EXPECT_EQ(result.levelWord, word) << mean;
     }
 }
 

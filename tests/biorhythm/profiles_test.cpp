@@ -17,7 +17,7 @@ struct ProfileStore : testing::Test {
 
     std::optional<std::string> save(const std::string& name, std::string_view time) {
         boxes.textAnswers.push_back(name);
-        return saveProfile(files, boxes, options, annsBirth, time);
+        return saveProfile(files, boxes, options, {annsBirth, time});
     }
 
     test::FakeFiles files;
@@ -34,27 +34,27 @@ TEST_F(ProfileStore, SavesARecordOnceAndASecondOneOfTheSameName) {
                                          "Error"};
     EXPECT_EQ(boxes.shown, std::vector{refusal});
     EXPECT_EQ(save("Ann", "7:06"), "Ann") << "the whole record is compared";
-    EXPECT_EQ(saveProfile(files, boxes, options, annsBirth, "9:00"), std::nullopt) << "cancelled";
+    EXPECT_EQ(saveProfile(files, boxes, options, {annsBirth, "9:00"}), std::nullopt) << "cancelled";
     EXPECT_EQ(profileNames(files), (std::vector<std::string>{"Ann", "Ann"}));
     EXPECT_EQ(findProfile(files, "Ann")->time.minute, 6) << "of two lines the last decides";
     files.readOnly = true;
     EXPECT_THROW(save("Bea", "7:05"), base::RunTimeError);
 }
 
-TEST_F(ProfileStore, KeepsNamesInTheWesternCodePage) {
+TEST_F(ProfileStore, KeepsNamesInWindows1252) {
     EXPECT_EQ(save("Zoe\u0308 \u03A9", "7:05"), "Zo\u00EB ?") << "composed, and ? for what the code page lacks";
     EXPECT_EQ(list(), "Zo\xEB ?,March/15/1980,7:05\r\n");
     EXPECT_TRUE(findProfile(files, "Zo\u00EB \u03A9")) << "found under the name as it was typed, too";
 }
 
-TEST_F(ProfileStore, ReadsWhatOtherHandsLeftInTheList) {
+TEST_F(ProfileStore, ReadsLinesThatOtherProgramsWrote) {
     const test::Table<std::string, std::optional<base::CivilTime>, const char*> rows{
         {"Ann,March/15/1980,7:5", base::CivilTime{7, 5, 0}, "the editor's minute without padding"},
         {"Ann", std::nullopt, "a name alone"},
         {"Ann,March/15/1980", std::nullopt, "no time"},
         {"Ann,March/15/1980,99:99", std::nullopt, "no such time"},
-        {"Ann,marzo/15/1980,7:45", std::nullopt, "no month of the list"},
-        {"Ann,March/15/4294969276,7:45", std::nullopt, "a year that folds onto 1980 in 32 bits"},
+        {"Ann,marzo/15/1980,7:45", std::nullopt, "not an English month"},
+        {"Ann,March/15/4294969276,7:45", std::nullopt, "a year that is 1980 after an overflow of 32 bits"},
         {"Ann, Sample,March/15/1980,7:45", std::nullopt, "a comma in the name"},
     };
     for (const auto& [line, time, why] : rows) {
@@ -66,37 +66,38 @@ TEST_F(ProfileStore, ReadsWhatOtherHandsLeftInTheList) {
     }
     list() = std::string(1 << 20, ',') + "\r\n" + std::string(annsLine);
     EXPECT_TRUE(findProfile(files, "Ann"));
-    EXPECT_TRUE(appendProfile(files, "Bea", annsBirth, "8:00"));
-    EXPECT_EQ(profileLines(files).size(), 3U) << "a last line without an end is not grown into";
+    EXPECT_TRUE(appendProfile(files, "Bea", {annsBirth, "8:00"}));
+    EXPECT_EQ(profileLines(files).size(), 3U) << "a record is a line of its own behind a last line without an end";
     EXPECT_EQ(monthNumberFromName("december", "4"), "4") << "a name outside the list leaves the number";
 }
 
-TEST_F(ProfileStore, DeletesEveryLineThatHoldsTheSelectedOneAndCopiesTheRestToTheByte) {
+TEST_F(ProfileStore, DeletesEveryLineThatContainsTheSelectedOneAndKeepsTheOtherBytes) {
     list() = "Jo\x81\xE9,x\r\n\r\nJoAnn,March/15/1980,7:45\r\nann,March/15/1980,7:45\n" + std::string(annsLine);
     removeProfileLines(files, boxes, annsLine, deleteMessages);
     const std::string rest = "Jo\x81\xE9,x\r\n\r\nann,March/15/1980,7:45\n";
-    EXPECT_EQ(list(), rest) << "JoAnn goes with Ann, and ann stays";
+    EXPECT_EQ(list(), rest) << "JoAnn is deleted with Ann, and ann is not";
     removeProfileLines(files, boxes, "", deleteMessages);
     EXPECT_EQ(list(), rest) << "no selection deletes nothing";
     files.unreadable.insert("/home/ann/velmoriax/perfiles.txt");
     removeProfileLines(files, boxes, "ann,March/15/1980,7:45", deleteMessages);
     EXPECT_EQ(list(), rest) << "a list that cannot be read is left alone";
-    EXPECT_TRUE(boxes.shown.empty()) << "all in silence";
+    EXPECT_TRUE(boxes.shown.empty()) << "without any message";
 }
 
-TEST_F(ProfileStore, EditsARecordOntoTheEndOfTheList) {
+TEST_F(ProfileStore, MovesAnEditedRecordToTheEndOfTheList) {
     list() = std::string(annsLine) + "\r\nBea,May/1/1990,12:30\r\n";
     const auto copy = copyWithoutProfile(files, boxes, annsLine, modifyMessages);
     const EditedProfile ann = editedProfile("Ann,March/15/1980,7:05");
-    submitProfile(files, copy.value(), ann.name, *ann.date, ann.time);
+    submitProfile(files, copy.value(), ann.name, {*ann.date, ann.time});
     EXPECT_EQ(list(), "Bea,May/1/1990,12:30\r\nAnn,March/15/1980,7:5\r\n");
     EXPECT_EQ(editedProfile("Bea,May/1/1990,12:30").time.minute, 30);
     EXPECT_EQ(editedProfile(annsLine).time.minute, 45);
-    EXPECT_EQ(editedProfile("Bea,May/1/1990,99:99").time, (base::CivilTime{23, 59, 0})) << "the spin boxes' bounds";
+    EXPECT_EQ(editedProfile("Bea,May/1/1990,99:99").time, (base::CivilTime{23, 59, 0}))
+        << "the bounds of the spin boxes";
     EXPECT_EQ(editedProfile("Smith, John,March/15/1980,7:45").date, std::nullopt);
 }
 
-TEST(ProfileList, SelectsTheStoredNameElseAnEndOfTheList) {
+TEST(ProfileList, SelectsTheStoredNameElseTheFirstOrLastEntry) {
     const std::vector<std::string> names{"Ann", "Bea", "Ann"};
     EXPECT_EQ(selectedAtLoad(names, "Bea"), 1U);
     EXPECT_EQ(selectedAtLoad(names, ""), 0U);
@@ -109,7 +110,7 @@ struct ProfileFiles : testing::Test {
     BioState state;
 };
 
-TEST_F(ProfileFiles, ComeIntoBeingUnsetAndOnlyWhereTheyAreMissing) {
+TEST_F(ProfileFiles, AreCreatedUnsetAndOnlyWhereTheyAreMissing) {
     files.at("\\horabio.dat") = "spoiled";
     createMissingProfileFiles(files);
     EXPECT_EQ(files.at("\\bio.dat"), "1,1,1900\r\n");
@@ -122,7 +123,8 @@ TEST_F(ProfileFiles, ComeIntoBeingUnsetAndOnlyWhereTheyAreMissing) {
     loadFinalDate(files, state, today);
     EXPECT_FALSE(birthDateIsSet(state));
     EXPECT_EQ(birthOf(state).time, (base::CivilTime{12, 0, 0}));
-    EXPECT_EQ(finalDateOf(state), today) << "a target that is not set is today";
+    EXPECT_EQ(finalDateOf(state), today) << "today when no target is set";
+    EXPECT_EQ(state.finalDateText, "15/11/2026");
 }
 
 TEST_F(ProfileFiles, AreWrittenToTheByteAndReadBack) {
@@ -143,14 +145,14 @@ TEST_F(ProfileFiles, AreWrittenToTheByteAndReadBack) {
 TEST_F(ProfileFiles, AreReadExactlyOrNotAtAll) {
     const test::Table<const char*, std::optional<Code>, const char*> rows{
         {"15,3,1980", std::nullopt, "no line end"},
-        {" 15 ,\t3, 1980 \r\n\r\n", std::nullopt, "blanks around the numbers"},
+        {" 15 ,\t3, 1980 \r\n\r\n", std::nullopt, "spaces around the numbers"},
         {"", Code::inputPastEndOfFile, "empty"},
         {"15,3", Code::inputPastEndOfFile, "truncated between numbers"},
         {"15,3,1980,", Code::typeMismatch, "a field too many"},
         {"15,March,1980", Code::typeMismatch, "a word"},
-        {"15.4,3,1980", Code::typeMismatch, "a fraction would have to be rounded"},
+        {"15.4,3,1980", Code::typeMismatch, "a fraction"},
         {"31,2,1980", Code::typeMismatch, "no such day"},
-        {"15,3,80", Code::typeMismatch, "no year of two digits is completed"},
+        {"15,3,80", Code::typeMismatch, "a year of two digits"},
         {"15,3,32768", Code::overflow, "beyond 16 bits"},
         {"15,3,-99999999999999999999999", Code::overflow, "beyond any number"},
     };
@@ -158,7 +160,7 @@ TEST_F(ProfileFiles, AreReadExactlyOrNotAtAll) {
         files.at("\\bio.dat") = content;
         state = {};
         EXPECT_EQ(test::codeOf([&] { loadBirth(files, state); }), code) << why;
-        EXPECT_EQ(birthDateIsSet(state), !code) << why << ": nothing is taken of a file that fails";
+        EXPECT_EQ(birthDateIsSet(state), !code) << why << ": a file that fails changes nothing";
     }
 }
 

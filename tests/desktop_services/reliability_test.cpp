@@ -23,8 +23,8 @@ struct HardDisk : test::DiskFixture {
     HardDisk() {
         options_.setOption(shell::key::tirada, "real");
         biorhythm::createMissingProfileFiles(files_);
-        biorhythm::appendProfile(files_, "Ann", {1980, 3, 15}, "7:45");
-        biorhythm::appendProfile(files_, "Bea", {1990, 5, 1}, "8:00");
+        biorhythm::appendProfile(files_, "Ann", {{1980, 3, 15}, "7:45"});
+        biorhythm::appendProfile(files_, "Bea", {{1990, 5, 1}, "8:00"});
     }
 
     std::vector<std::string> contents() const {
@@ -39,7 +39,7 @@ struct HardDisk : test::DiskFixture {
         const std::string longText(300'000, 'x');
         options_.setOption(shell::key::songAmbient, longText);
         biorhythm::removeProfileLines(files_, boxes_, "Ann,March/15/1980,7:45", biorhythm::deleteMessages);
-        const bool appended = biorhythm::appendProfile(files_, longText, {1980, 3, 15}, "7:45") ||
+        const bool appended = biorhythm::appendProfile(files_, longText, {{1980, 3, 15}, "7:45"}) ||
                               files_.append(at("\\perfiles.txt"), longText);
         const auto save = [&] { biorhythm::saveBioState(files_, state_, {{1999, 9, 9}, {9, 9, 0}}, {2099, 9, 9}); };
         return test::codeOf(save) == Code::pathFileAccess && !appended;
@@ -142,7 +142,7 @@ void writeDatFiles(DiskFiles& files, int turn) {
 void deleteAndSaveProfile(DiskFiles& files, int turn) {
     test::FakeBoxes boxes;
     if (turn % 2)
-        biorhythm::appendProfile(files, "Ann", {1980, 3, 15}, "7:45");
+        biorhythm::appendProfile(files, "Ann", {{1980, 3, 15}, "7:45"});
     else
         biorhythm::removeProfileLines(files, boxes, "Ann,March/15/1980,7:45", biorhythm::deleteMessages);
 }
@@ -151,7 +151,7 @@ void editProfile(DiskFiles& files, int turn) {
     test::FakeBoxes boxes;
     const std::string last = biorhythm::profileLines(files).back();
     const auto copy = biorhythm::copyWithoutProfile(files, boxes, last, biorhythm::modifyMessages);
-    biorhythm::submitProfile(files, copy.value(), "Ann", {1980, 3, 15}, {7, turn % 2, 0});
+    biorhythm::submitProfile(files, copy.value(), "Ann", {{1980, 3, 15}, {7, turn % 2, 0}});
 }
 
 using Write = void (*)(DiskFiles& files, int turn);

@@ -47,7 +47,7 @@ TEST_F(Navigation, EveryPopupAndEachWindowsOwnControlsLeadToTheFiveOthers) {
 
 TEST_F(Navigation, EachEntryOfAPopupHandsOverToItsModule) {
     files.contents = test::suppliedFiles(files.directory);
-    modules.biorhythmServices.loadAtStart();
+    modules.biorhythmsForShell.loadAtStart();
     options.readAtStart();
     for (const ModuleInfo* source : windows.modules())
         for (const ModuleInfo* target : windows.modules()) {

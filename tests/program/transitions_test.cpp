@@ -43,7 +43,7 @@ struct World : test::ProgramFixture {
         tray.arrive();
         modules.setNotification(&sliding);
         options.readAtStart();
-        modules.biorhythmServices.loadAtStart();
+        modules.biorhythmsForShell.loadAtStart();
         switcher.loadFirst(first);
         window = &loadedModule();
         for (auto* field : window->findChildren<QLineEdit*>()) field->setText(QStringLiteral("Ann 7"));
@@ -160,7 +160,7 @@ const Step showTip{"tip", [](World& world) {
                            line->tipLine(world.clock.now());
                        if (!world.state.closingAll) world.windows.touch("FrmToolTip");
                    }};
-const Step alert{"alert", [](World& world) { world.modules.biorhythmServices.runHalfHourly(); }};
+const Step alert{"alert", [](World& world) { world.modules.biorhythmsForShell.runHalfHourly(); }};
 const Step minimise{"minimise", [](World& world) {
                         auto* module = shell::ModuleWindow::loadedIn(world.windows);
                         if (!module) return;

@@ -37,7 +37,7 @@ struct BioWindows : test::WindowFixture {
     std::string option(const char* key) { return options.option(key); }
     std::string lines() { return files.at("\\perfiles.txt"); }
 
-    /// Day, month and year of a date on its three faces.
+    /// Day, month and year of a date, as its three spin boxes show them.
     static std::string birthShown(const QWidget& view) {
         return textOf(view, "lblDayBirth") + ' ' + textOf(view, "lblMonthBirth") + ' ' + textOf(view, "lblYearBirth");
     }

@@ -64,14 +64,14 @@ TEST_F(BioView, TakesTypedNumbersWhenTheyAreComplete) {
         month.selectAll();
         QTest::keyClicks(&month, QString::fromLatin1(keys));
         QTest::keyClick(&month, Qt::Key_Return);
-        EXPECT_EQ(month.value(), taken) << keys << ": neither a thirteenth month nor one of two is taken";
+        EXPECT_EQ(month.value(), taken) << keys << ": neither a thirteenth month nor an ambiguous name is taken";
     }
 }
 
 TEST_F(BioView, StepsTheReadingWhileAnArrowIsHeld) {
     QTest::mousePress(&left, Qt::LeftButton);
     EXPECT_TRUE(biorhythms.view.manualDate);
-    EXPECT_EQ(readingShown(view), "20 June 2026") << "the first step comes with the first tick";
+    EXPECT_EQ(readingShown(view), "20 June 2026") << "the first step is made at the first tick";
     EXPECT_TRUE(QTest::qWaitFor([&] { return biorhythms.view.reading <= base::CivilDate{2026, 6, 17}; }));
     QTest::mouseRelease(&left, Qt::LeftButton);
     const base::CivilDate reached = biorhythms.view.reading;
@@ -79,12 +79,14 @@ TEST_F(BioView, StepsTheReadingWhileAnArrowIsHeld) {
     EXPECT_EQ(biorhythms.view.reading, reached);
     QTest::mousePress(&right, Qt::RightButton);
     EXPECT_FALSE(control<QTimer>(view, "TimerButton").isActive());
+    QTest::mouseRelease(&right, Qt::RightButton);
     QTest::mouseClick(&right, Qt::LeftButton);
     QTest::keyClick(&right, Qt::Key_Space);
     QTest::keyClick(&right, Qt::Key_Right);
     EXPECT_EQ(base::daysBetween(reached, biorhythms.view.reading), 3) << "a short click and each key step once";
     QTest::keyClick(&right, Qt::Key_Left);
-    EXPECT_EQ(base::daysBetween(reached, biorhythms.view.reading), 2) << "the key decides, not the arrow that has it";
+    EXPECT_EQ(base::daysBetween(reached, biorhythms.view.reading), 2)
+        << "the key decides, not the arrow that has the focus";
     press(view, "CmdHoy");
     EXPECT_EQ(readingShown(view), "20 June 2026");
 }
@@ -116,7 +118,7 @@ TEST_F(BioView, AsksForTheTimeOfBirth) {
     EXPECT_TRUE(shown(view, "VScrollHora") && shown(view, "CommandOk") && !shown(view, "XPButtonHora"));
     step(view, "VScrollHora", 9);
     step(view, "VScrollMinuto", 5);
-    EXPECT_EQ(textOf(view, "lblDays"), "16898.39") << "it counts before it is confirmed";
+    EXPECT_EQ(textOf(view, "lblDays"), "16898.39") << "the time enters the age before it is confirmed";
     EXPECT_EQ(files.at("\\horabio.dat"), "7,45\r\n");
     press(view, "CommandOk");
     EXPECT_EQ(files.at("\\horabio.dat"), "9,5\r\n");
@@ -124,7 +126,7 @@ TEST_F(BioView, AsksForTheTimeOfBirth) {
     EXPECT_TRUE(!shown(view, "LabelMinuto") && shown(view, "XPButtonHora"));
 }
 
-TEST_F(BioViewStart, PicksAProfileWithADayThatTheMonthOnShowLacks) {
+TEST_F(BioViewStart, PicksAProfileWithADayThatTheMonthShownDoesNotHave) {
     files.at("\\bio.dat") = "10,2,1981\r\n";
     files.at("\\perfiles.txt") = "Ann,May/31/1990,7:5\r\n\r\nNoDate,Sometime,7:45\r\nBob,May/3/1990,8:10\r\n";
     frmBio& view = open();
@@ -142,7 +144,7 @@ TEST_F(BioViewStart, PicksAProfileWithADayThatTheMonthOnShowLacks) {
     EXPECT_EQ(list.currentText(), "Ann") << "a person whose date cannot be read is not picked";
 }
 
-TEST_F(BioView, SavesAProfileAndComparesNoneAlone) {
+TEST_F(BioView, SavesAProfileAndComparesNothingWithASingleOne) {
     boxes.textAnswers = {std::nullopt, "Ann"};
     for (int i = 0; i < 2; ++i) press(view, "XPButtonSave");
     EXPECT_EQ(lines(), "Ann,March/15/1980,7:45\r\n");
@@ -154,7 +156,7 @@ TEST_F(BioView, SavesAProfileAndComparesNoneAlone) {
     EXPECT_FALSE(windows.loaded("FrmCompaTab"));
 }
 
-TEST_F(BioViewStart, ListsAThousandProfilesAndTellsItsRowsInWords) {
+TEST_F(BioViewStart, ListsAThousandProfilesAndDescribesItsChartToAScreenReader) {
     std::string& list = files.at("\\perfiles.txt");
     for (int i = 0; i < 1000; ++i) list += "Person " + std::to_string(i) + ",March/15/1980,7:45\r\n";
     files.at("\\opciones.ini") = "[opciones]\r\nPerfil-Bio=Person 777\r\nNombre secundario=Person 3\r\n"
@@ -172,7 +174,7 @@ TEST_F(BioViewStart, ListsAThousandProfilesAndTellsItsRowsInWords) {
     EXPECT_TRUE(rows.contains("Physical2 -97.53 %")) << "the two were born at the same time";
 }
 
-TEST_F(BioViewStart, OneProfileIsDrawnAlone) {
+TEST_F(BioViewStart, DrawsASingleProfileAlone) {
     files.at("\\perfiles.txt") = "Ann,March/15/1980,7:45\r\n";
     files.at("\\opciones.ini") = "[opciones]\r\nNombre secundario=Ann\r\nDibujar secundario=1\r\n";
     frmBio& view = open();
@@ -180,7 +182,7 @@ TEST_F(BioViewStart, OneProfileIsDrawnAlone) {
     EXPECT_FALSE(shown(view, "TextSecondProf"));
 }
 
-TEST_F(BioViewStart, TellsWhatToDoWhileNoBirthDateIsSet) {
+TEST_F(BioViewStart, ShowsTheHelpLinesWhileNoBirthDateIsSet) {
     files.at("\\bio.dat") = "1,1,1900\r\n";
     frmBio& view = open();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !notification.texts.empty(); })) << "on the first activation";
@@ -195,14 +197,14 @@ TEST_F(BioViewStart, TellsWhatToDoWhileNoBirthDateIsSet) {
     EXPECT_TRUE(biorhythms.alerts.manualAlert);
 }
 
-TEST_F(BioView, AlertsForTheDateOnShow) {
+TEST_F(BioView, AlertsForTheDateShown) {
     options.holders.alertLevel = "solo";
     step(view, "vsbDayBio", 1);
     press(view, "CmdAlert");
     EXPECT_NE(notification.texts.at(0).find("Emotional: " + textOf(view, "LabelEmo").substr(1, 5)), std::string::npos);
 }
 
-TEST_F(BioView, SavesWhenItIsHiddenAndWhenItGoes) {
+TEST_F(BioView, SavesWhenItIsHiddenAndWhenItIsUnloaded) {
     options.holders.bgSound = "SiBgSound";
     step(view, "vsbDayBirth", 16);
     EXPECT_EQ(files.at("\\bio.dat"), "15,3,1980\r\n");
@@ -217,11 +219,11 @@ TEST_F(BioView, SavesWhenItIsHiddenAndWhenItGoes) {
     EXPECT_EQ(files.at("\\biofinal.dat"), "20,6,2026\r\n");
     EXPECT_FALSE(biorhythms.alerts.welcomeShown || biorhythms.alerts.manualAlert);
     EXPECT_EQ(sounds.played, std::vector<std::string>{"boop.wav"});
-    EXPECT_FALSE(windows.loaded("FrmProfiles")) << "the windows that work on the view go with it";
+    EXPECT_FALSE(windows.loaded("FrmProfiles")) << "the windows that work on the view are unloaded with it";
     EXPECT_FALSE(state.noTrayAdd);
 }
 
-TEST_F(BioView, MnemonicsAreUnique) {
+TEST_F(BioView, HasUniqueMnemonics) {
     QStringList letters = mnemonicsOf(view) << "G";
     EXPECT_GE(letters.size(), 15);
     EXPECT_EQ(letters.removeDuplicates(), 0);

@@ -21,17 +21,17 @@ struct WithProfiles : BioWindows {
         return open();
     }
 
-    QWidget& beside(const char* button, const char* window) {
+    QWidget& openWith(const char* button, const char* window) {
         press(view, button);
         return windows.loaded(window)->widget();
     }
     static void choose(const QWidget& window, int row) {
         control<QListWidget>(window, "ListProfiles").setCurrentRow(row);
     }
-    /// The list is the first that gets the focus when its window comes up.
+    /// The list is the first control to get the focus when its window is shown.
     static void takeFocus(const QWidget& window) {
-        QFocusEvent comes(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
-        QCoreApplication::sendEvent(&control<QListWidget>(window, "ListProfiles"), &comes);
+        QFocusEvent focusIn(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+        QCoreApplication::sendEvent(&control<QListWidget>(window, "ListProfiles"), &focusIn);
     }
     std::size_t series() { return control<BioPlot>(view, "MSChart1").chart().seriesCount; }
 
@@ -39,7 +39,7 @@ struct WithProfiles : BioWindows {
 };
 
 struct Profiles : WithProfiles {
-    QWidget& list = beside("XPButtonEdit", "FrmProfiles");
+    QWidget& list = openWith("XPButtonEdit", "FrmProfiles");
     void askToEdit(int row) {
         choose(list, row);
         press(list, "CmdMod");
@@ -51,33 +51,33 @@ struct Profiles : WithProfiles {
 };
 
 struct CompatibilityWindow : WithProfiles {
-    QWidget& window = beside("XPButtonCompa", "FrmCompaTab");
+    QWidget& window = openWith("XPButtonCompa", "FrmCompaTab");
     QTabBar& tabs = control<QTabBar>(window, "SSTab1");
     bool resultsShown() {
         return shown(window, "LabelInfo") && shown(window, "LabelFis") && shown(window, "LabelMedia");
     }
 };
 
-TEST_F(Profiles, DeletionsReachTheViewThroughExitAlone) {
+TEST_F(Profiles, OnlyExitUpdatesTheViewAfterADeletion) {
     EXPECT_TRUE(state.noTrayAdd);
-    EXPECT_EQ(control<QListWidget>(list, "ListProfiles").count(), 3) << "blank lines are not listed";
+    EXPECT_EQ(control<QListWidget>(list, "ListProfiles").count(), 3) << "empty lines are not listed";
     takeFocus(list);
     press(list, "CmdBorrar");
-    EXPECT_EQ(files.temporaryCount, 0) << "nothing is chosen";
+    EXPECT_EQ(files.temporaryCount, 0) << "nothing is selected";
     choose(list, 0);
     press(list, "CmdBorrar");
     list.close();
     EXPECT_EQ(view.profileNames().size(), 3);
-    QWidget& again = beside("XPButtonEdit", "FrmProfiles");
+    QWidget& again = openWith("XPButtonEdit", "FrmProfiles");
     press(again, "CmdExit");
-    EXPECT_EQ(view.profileNames(), QStringList("Bob")) << "the line that holds Ann's went as well";
-    EXPECT_EQ(view.profileMainName(), "Bob") << "the stored name is gone: the last entry stands";
+    EXPECT_EQ(view.profileNames(), QStringList("Bob")) << "the line that contains Ann's is deleted as well";
+    EXPECT_EQ(view.profileMainName(), "Bob") << "the stored name is deleted: the last entry is selected";
     EXPECT_EQ(birthShown(view), "15 March 1980");
     EXPECT_EQ(option("Perfil-Bio"), "Ann");
     EXPECT_FALSE(state.noTrayAdd || windows.loaded("FrmProfiles"));
 }
 
-TEST_F(Profiles, TheLastDeletionHidesTheListOfTheView) {
+TEST_F(Profiles, TheViewHidesAnEmptyList) {
     for (int i = 0; i < 2; ++i) {
         choose(list, 0);
         press(list, "CmdBorrar");
@@ -93,23 +93,23 @@ TEST_F(Profiles, ModifyMovesTheRecordToTheEnd) {
     EXPECT_EQ(textOf(form, "TextName"), "Bob");
     EXPECT_EQ(control<QDateEdit>(form, "DTPicker1").date(), QDate(1980, 1, 1));
     EXPECT_EQ(textOf(form, "LabelHora") + ':' + textOf(form, "LabelMinuto"), "12:30");
-    EXPECT_EQ(lines().find("Bob"), 26U) << "the list stands until it is submitted";
+    EXPECT_EQ(lines().find("Bob"), 26U) << "the list is unchanged until the record is submitted";
     step(form, "VScrollHora", 7);
     step(form, "VScrollMinuto", 5);
     press(form, "CmdAcept");
     EXPECT_EQ(control<QListWidget>(list, "ListProfiles").item(2)->text(), "Bob,January/1/1980,7:5");
     EXPECT_FALSE(windows.loaded("FormMod"));
-    EXPECT_FALSE(files.exists("/tmp/tmp1")) << "it took the list's place";
+    EXPECT_FALSE(files.exists("/tmp/tmp1")) << "it replaced the list";
 }
 
-TEST_F(Profiles, CancelLeavesTheListAndACopyBehind) {
+TEST_F(Profiles, CancelKeepsTheListAndTheCopy) {
     const std::string before = lines();
     press(edit(2), "CmdCancel");
     EXPECT_EQ(lines(), before);
     EXPECT_EQ(files.contents["/tmp/tmp1"], "Ann,March/15/1980,7:45\r\n\r\nBob,January/1/1980,12:30\r\n");
 }
 
-TEST_F(Profiles, TellsWhatFailedAndLeavesTheList) {
+TEST_F(Profiles, ShowsWhatFailedAndKeepsTheList) {
     const std::string before = lines();
     files.temporaryNameFails = true;
     askToEdit(1);
@@ -119,9 +119,9 @@ TEST_F(Profiles, TellsWhatFailedAndLeavesTheList) {
     press(list, "CmdBorrar");
     askToEdit(1);
     EXPECT_EQ(windows.loaded("FormMod"), nullptr) << "without a copy there is nothing to edit";
-    const std::vector<std::string> told{"Error searching the name of file.", "Error getting temporary file name.",
-                                        "Error getting temporary file path.", "Error searching the path of file."};
-    EXPECT_TRUE(std::ranges::equal(told, boxes.shown, {}, {}, &test::FakeBoxes::Shown::text));
+    const std::vector<std::string> messages{"Error searching the name of file.", "Error getting temporary file name.",
+                                            "Error getting temporary file path.", "Error searching the path of file."};
+    EXPECT_TRUE(std::ranges::equal(messages, boxes.shown, {}, {}, &test::FakeBoxes::Shown::text));
     EXPECT_EQ(lines(), before);
 }
 
@@ -129,13 +129,13 @@ TEST_F(CompatibilityWindow, ComparesAndDrawsTheSecondProfile) {
     EXPECT_TRUE(state.noTrayAdd);
     EXPECT_EQ(textOf(window, "LabelProMain"), "Main profile: Ann");
     takeFocus(window);
-    EXPECT_EQ(textOf(window, "LabelFis"), "Physical:") << "nobody is chosen yet";
+    EXPECT_EQ(textOf(window, "LabelFis"), "Physical:") << "no one is selected yet";
     EXPECT_TRUE(boxes.shown.empty());
     choose(window, 1);
     EXPECT_EQ(textOf(window, "LabelInfo"), "Complementarity between Ann and Bob for the day "
                                            "June/20/2026 18:30:00 (0-100 %):");
     for (const char* label : {"LabelProMain", "LabelInfo"})
-        EXPECT_EQ(control<QLabel>(window, label).textFormat(), Qt::PlainText) << "a name may look like markup";
+        EXPECT_EQ(control<QLabel>(window, label).textFormat(), Qt::PlainText) << "a name may contain markup";
     EXPECT_EQ(option("Nombre secundario"), "Bob");
     tabs.setCurrentIndex(1);
     EXPECT_EQ(textOf(window, "LabelInfo"), "Affinity between Ann and Bob forever (0-100 %):");
@@ -150,7 +150,7 @@ TEST_F(CompatibilityWindow, ComparesAndDrawsTheSecondProfile) {
     EXPECT_EQ(series(), 8U) << "the chart keeps what was set last";
 }
 
-TEST_F(CompatibilityWindow, APersonOfTheMainNameIsNoOther) {
+TEST_F(CompatibilityWindow, RefusesAPersonOfTheMainProfilesName) {
     choose(window, 1);
     control<QCheckBox>(window, "CheckPlot").setChecked(true);
     choose(window, 0);
@@ -164,8 +164,8 @@ TEST_F(CompatibilityWindow, APersonOfTheMainNameIsNoOther) {
     EXPECT_TRUE(resultsShown());
     EXPECT_FALSE(shown(view, "TextSecondProf")) << "the box is not checked";
     window.close();
-    QWidget& again = beside("XPButtonCompa", "FrmCompaTab");
-    EXPECT_EQ(control<QListWidget>(again, "ListProfiles").currentRow(), 2) << "the stored one is compared at once";
+    QWidget& again = openWith("XPButtonCompa", "FrmCompaTab");
+    EXPECT_EQ(control<QListWidget>(again, "ListProfiles").currentRow(), 2) << "the stored one is compared at the load";
     EXPECT_TRUE(control<QCheckBox>(again, "CheckPlot").isChecked());
     EXPECT_EQ(textOf(view, "TextSecondProf"), "JoAnn");
 }
@@ -195,7 +195,7 @@ TEST_F(Snapshot, SavesTheViewAndOpensIt) {
     EXPECT_FALSE(windows.loaded("FormSnap"));
 }
 
-TEST_F(Snapshot, GoesOnWithoutAnEncoderAndOpensNothingAfterAFailure) {
+TEST_F(Snapshot, ContinuesWithoutAnEncoderAndOpensNothingAfterAFailure) {
     files.at("\\mysnap.jpg") = "an older one";
     take({"image/png"});
     EXPECT_EQ(boxes.shown,

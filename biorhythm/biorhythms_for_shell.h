@@ -13,8 +13,8 @@
 
 namespace velmoriax::biorhythm {
 
-/// What the shell and the Card of the Day ask of the biorhythms: the alerts, the line of the tray tip, the gauge.
-class BiorhythmServices : public shell::BirthAlerts, public shell::TipLineSource, public shell::AverageGaugeSource {
+/// The biorhythms behind the interfaces of the shell: the alerts, the line of the tray tip and the gauge.
+class BiorhythmsForShell : public shell::BirthAlerts, public shell::TipLineSource, public shell::AverageGaugeSource {
 public:
     struct Desktop {
         const platform::Clock& clock;
@@ -23,9 +23,9 @@ public:
         const shell::OptionsStore& options;
     };
 
-    BiorhythmServices(BiorhythmState& state, const Desktop& desktop) : state_(state), desktop_(desktop) {}
+    BiorhythmsForShell(BiorhythmState& state, const Desktop& desktop) : state_(state), desktop_(desktop) {}
 
-    /// What shows the alerts; until it is set, the alerts do nothing.
+    /// Where the alerts are shown; while it is null, no alert is computed.
     platform::Notification* notification = nullptr;
 
     void loadAtStart() override;

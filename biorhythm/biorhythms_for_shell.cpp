@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "biorhythm/biorhythm_services.h"
+#include "biorhythm/biorhythms_for_shell.h"
 
 #include "base/run_time_error.h"
 #include "biorhythm/bio_gauge.h"
@@ -7,39 +7,39 @@
 
 namespace velmoriax::biorhythm {
 
-void BiorhythmServices::loadAtStart() {
+void BiorhythmsForShell::loadAtStart() {
     createMissingProfileFiles(desktop_.files);
     biorhythm::loadBirth(desktop_.files, state_.bio);
 }
 
-base::CivilDate BiorhythmServices::birthDate() const {
+base::CivilDate BiorhythmsForShell::birthDate() const {
     return {state_.bio.birthYear, state_.bio.birthMonth, state_.bio.birthDay};
 }
 
-void BiorhythmServices::runAtStart() {
+void BiorhythmsForShell::runAtStart() {
     state_.alerts.startupAlert = true;
     runAlerts();
     state_.alerts.startupAlert = false;
 }
 
-void BiorhythmServices::runHalfHourly() {
+void BiorhythmsForShell::runHalfHourly() {
     state_.alerts.manualAlert = false;
     runAlerts();
 }
 
-void BiorhythmServices::runAlerts() {
+void BiorhythmsForShell::runAlerts() {
     if (!notification) return;
     const base::DateValue now = desktop_.clock.now();
-    alertasbio(state_.alerts, state_.bio, desktop_.options.holders.alertLevel, {now, base::civilDateOf(now)},
+    alertasbio(state_.alerts, state_.bio, {desktop_.options.holders.alertLevel, now, base::civilDateOf(now)},
                {*notification, desktop_.sounds});
 }
 
-std::string BiorhythmServices::tipLine(base::DateValue now) {
+std::string BiorhythmsForShell::tipLine(base::DateValue now) {
     biotip(desktop_.files, state_.bio, state_.alerts, now);
     return state_.alerts.bioTipText;
 }
 
-std::string BiorhythmServices::quietTipLine(base::DateValue now) {
+std::string BiorhythmsForShell::quietTipLine(base::DateValue now) {
     BioState bio = state_.bio;
     AlertState alerts = state_.alerts;
     try {
@@ -50,13 +50,13 @@ std::string BiorhythmServices::quietTipLine(base::DateValue now) {
     return alerts.bioTipText;
 }
 
-bool BiorhythmServices::loadBirth() {
+bool BiorhythmsForShell::loadBirth() {
     loadBirthTime(desktop_.files, state_.bio);
     biorhythm::loadBirth(desktop_.files, state_.bio);
     return birthDateIsSet(state_.bio);
 }
 
-shell::AverageGauge BiorhythmServices::drawBioMedia(base::DateValue now) {
+shell::AverageGauge BiorhythmsForShell::drawBioMedia(base::DateValue now) {
     return biorhythm::drawBioMedia(state_.bio, now);
 }
 
