@@ -46,7 +46,7 @@ std::int32_t dayNumber(CivilDate date);
 /// The inverse of `dayNumber`.
 CivilDate civilDateOfDay(std::int32_t dayNumber);
 
-/// True calendar days from one date to the other, negative when `to` lies before.
+/// True calendar days from one date to the other, negative when `to` is earlier.
 std::int32_t daysBetween(CivilDate from, CivilDate to);
 
 /// Day of the week, Sunday 1 to Saturday 7.

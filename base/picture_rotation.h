@@ -22,7 +22,7 @@ inline constexpr int counterClockwise = 2;
 } // namespace turn
 
 /// Turns a rectangle of the surface in place. A mode beside the three leaves the rectangle black, which is all its
-/// bytes zero; what lies outside the surface is black too. A quarter turn keeps the rectangle's shape: it throws
+/// bytes zero; what is outside the surface is black too. A quarter turn keeps the rectangle's shape: it throws
 /// RunTimeError Subscript out of range for one that is not square, and the surface stays as it was.
 void rotatePicture(PixelSurface surface, int mode, int x, int y, int width, int height);
 

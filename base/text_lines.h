@@ -20,7 +20,7 @@ enum class LineEnds {
     any    ///< a carriage return alone ends a line as well
 };
 
-/// Takes the next line off a text. An empty text gives an empty line.
+/// Removes the first line from a text and returns it. Of an empty text it is an empty line.
 Line takeLine(std::string_view& text, LineEnds ends);
 
 /// The text without the characters of a set at its ends: spaces alone, unless others are named.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The floor that the whole program is measured against: one label, one tray icon, nothing else.
+// What the whole program is measured against: one label, one tray icon, nothing else.
 #include <QApplication>
 #include <QIcon>
 #include <QLabel>

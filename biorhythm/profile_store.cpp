@@ -49,7 +49,7 @@ bool isInList(const platform::Files& files, std::string_view recordBytes) {
 std::optional<std::string> temporaryFile(platform::Files& files, platform::MessageBoxes& boxes,
                                          const RewriteMessages& messages) {
     const auto folder = files.temporaryFolder();
-    const auto tempName = folder ? files.createTemporaryFile(*folder, "tmp") : std::nullopt;
+    auto tempName = folder ? files.createTemporaryFile(*folder, "tmp") : std::nullopt;
     if (!tempName)
         boxes.show(platform::BoxIcon::none, std::string(folder ? messages.nameFailure : messages.pathFailure));
     return tempName;

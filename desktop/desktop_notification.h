@@ -8,7 +8,7 @@
 
 namespace velmoriax::desktop {
 
-/// A notification shown by the desktop itself, for where a window cannot place itself. One stands at a time.
+/// A notification shown by the desktop itself, for where a window cannot place itself. One is shown at a time.
 class DesktopNotification : public QObject {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ private Q_SLOTS:
 private:
     void follow();
 
-    std::uint32_t id_ = 0; ///< 0 while none stands
+    std::uint32_t id_ = 0; ///< 0 while none is shown
     bool following_ = false;
 };
 

@@ -58,7 +58,7 @@ void DesktopTray::showBalloon(const QString& title, const QString& text, bool si
 }
 
 void DesktopTray::hideBalloon() {
-    // An empty balloon takes away the one that stands; as an item's notification it would be shown.
+    // An empty balloon removes the one on show; as an item's notification it would be shown itself.
     if (reportsPointer()) icon_->showMessage({}, {}, QSystemTrayIcon::NoIcon, 0);
 }
 

@@ -82,7 +82,7 @@ fs::path behindLinks(const fs::path& path) {
     return error ? path : resolved;
 }
 
-/// Writes bytes under a new name in a folder and gives the name; empty on failure, with nothing left behind.
+/// Writes bytes under a new name in a folder and returns the name; empty on failure, with nothing left behind.
 fs::path writtenBeside(const fs::path& target, std::string_view bytes) {
     std::string name = (target.parent_path() / freshPrefix).string().append(freshMark);
     const Descriptor file(::mkostemp(name.data(), O_CLOEXEC));

@@ -14,7 +14,7 @@ namespace velmoriax::desktop {
 /// out by the sound thread, in order. Without a device, a sound font or a file everything stays silent and quick.
 class Mixer : public platform::Sounds, public platform::SongPlayer {
 public:
-    /// `pluginFolder` is where the sound library lies.
+    /// `pluginFolder` holds the sound library.
     Mixer(const DiskFiles& files, std::string pluginFolder);
 
     void playWav(const std::string& name) override;
@@ -29,7 +29,7 @@ public:
 
 private:
     int newDevice();
-    /// Gives the open device another mode; false when it is another one, or its song cannot be played.
+    /// Changes the mode of the open device; false when it is another one, or its song cannot be played.
     bool change(int device, Mode mode);
     void halt(int device);
 

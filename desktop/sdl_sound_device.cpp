@@ -62,7 +62,7 @@ int isThere(const char* font, void*) {
 }
 
 /// False when there is no sound font: a song would play on without a sound, and keep the device open. The user's own
-/// choice in the environment comes first: the mixer reads that itself when it is told of no other.
+/// choice in the environment comes first: the mixer reads that itself when no other is named.
 bool chooseSoundFont() {
     const char* chosen = std::getenv("SDL_SOUNDFONTS");
     Mix_SetSoundFonts(chosen && *chosen ? nullptr : soundFont().c_str());

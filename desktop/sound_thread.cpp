@@ -7,7 +7,7 @@ namespace velmoriax::desktop {
 
 namespace {
 
-constexpr std::chrono::milliseconds beat{50};
+constexpr std::chrono::milliseconds idleInterval{50};
 
 } // namespace
 
@@ -34,17 +34,17 @@ void SoundThread::run() {
     bool deviceOpen = false;
     while (const Job job = nextJob(deviceOpen)) {
         job(*device);
-        onBeat_(*device);
+        onIdle_(*device);
         deviceOpen = device->staysOpen();
     }
 }
 
-/// The next job, an idle one at each beat, and none at the end.
+/// The next job, an empty one after each idle interval, and none at the end.
 SoundThread::Job SoundThread::nextJob(bool deviceOpen) {
     std::unique_lock lock(guard_);
     const auto isCalled = [this] { return ending_ || !jobs_.empty(); };
     if (deviceOpen)
-        wake_.wait_for(lock, beat, isCalled);
+        wake_.wait_for(lock, idleInterval, isCalled);
     else
         wake_.wait(lock, isCalled);
     if (ending_) return nullptr;

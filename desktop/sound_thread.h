@@ -18,12 +18,12 @@ class SoundThread {
 public:
     using Job = std::function<void(SoundDevice&)>;
 
-    /// `pluginFolder` is where the sound library lies. `onBeat` runs on the thread after each job, and every 50 ms
+    /// `pluginFolder` holds the sound library. `onIdle` runs on the thread after each job, and every 50 ms
     /// while the device is open.
-    SoundThread(std::string pluginFolder, Job onBeat) :
-        pluginFolder_(std::move(pluginFolder)), onBeat_(std::move(onBeat)) {}
+    SoundThread(std::string pluginFolder, Job onIdle) :
+        pluginFolder_(std::move(pluginFolder)), onIdle_(std::move(onIdle)) {}
 
-    /// Lets the job under way end, drops those that wait and closes the device.
+    /// Waits for the job under way, drops those that wait and closes the device.
     ~SoundThread();
 
     void give(Job job);
@@ -33,7 +33,7 @@ private:
     Job nextJob(bool deviceOpen);
 
     std::string pluginFolder_;
-    Job onBeat_;
+    Job onIdle_;
     std::mutex guard_;
     std::condition_variable wake_;
     std::deque<Job> jobs_;

@@ -30,22 +30,22 @@ public:
     virtual Content read(const std::string& path) const = 0;
     virtual bool exists(const std::string& path) const = 0;
 
-    /// Puts a whole file in the place of the old one. On failure (false) the old content stands.
+    /// Replaces a file as a whole. On failure (false) the old content is kept.
     virtual bool replace(const std::string& path, const std::string& bytes) = 0;
 
-    /// Adds to the end of a file, creating the file but not its directory. On failure (false) the old content stands.
+    /// Adds to the end of a file, creating the file but not its directory. On failure (false) the old content is kept.
     virtual bool append(const std::string& path, const std::string& bytes) = 0;
 
     virtual bool remove(const std::string& path) = 0;
 
-    /// Gives `from` the name `to`, replacing what stands there, across file systems as well. On failure (false) what
-    /// stood under `to` is whole.
+    /// Renames `from` to `to`, replacing what is there, across file systems as well. On failure (false) what
+    /// was under `to` is unchanged.
     virtual bool rename(const std::string& from, const std::string& to) = 0;
 
     /// The folder for temporary files; nothing when there is none.
     virtual std::optional<std::string> temporaryFolder() const = 0;
 
-    /// Creates a new empty file in that folder and gives its path; nothing on failure.
+    /// Creates a new empty file in that folder and returns its path; nothing on failure.
     virtual std::optional<std::string> createTemporaryFile(const std::string& folder, const std::string& prefix) = 0;
 };
 

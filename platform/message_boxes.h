@@ -8,7 +8,7 @@ namespace velmoriax::platform {
 
 enum class BoxIcon { none, information, warning, critical };
 
-/// Modal boxes. An empty title stands for the application's title. All texts are UTF-8.
+/// Modal boxes. An empty title means the application's title. All texts are UTF-8.
 class MessageBoxes {
 public:
     virtual ~MessageBoxes() = default;

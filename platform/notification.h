@@ -5,15 +5,15 @@
 
 namespace velmoriax::platform {
 
-/// The small window that slides up over the taskbar, as those see it who have something to tell.
+/// The small window that slides up over the taskbar, as seen by those who have something to show.
 class Notification {
 public:
     virtual ~Notification() = default;
 
-    /// Slides the window up with a text. One that stands slides down instead.
+    /// Slides the window up with a text. One that is shown slides down instead.
     virtual void slideUp(const std::string& text) = 0;
 
-    /// Slides the window up with a text, unless it stands already: then it stays as it is.
+    /// Slides the window up with a text, unless it is shown already: then it stays as it is.
     virtual void show(const std::string& text) = 0;
 
     /// Slides the window down when its time is over; it stays loaded.
@@ -22,7 +22,7 @@ public:
     /// Slides the window down and takes it away.
     virtual void close() = 0;
 
-    /// True while the window stands fully up.
+    /// True while the window is shown and does not slide.
     virtual bool isOpen() const = 0;
 };
 

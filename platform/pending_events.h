@@ -7,7 +7,7 @@ class PendingEvents {
 public:
     virtual ~PendingEvents() = default;
 
-    /// Lets the events that wait run, timers and other windows included: a handler may be entered again inside.
+    /// Processes the events that wait, timers and other windows included: a handler may be entered again inside.
     virtual void processEvents() = 0;
 
     /// True while control is inside `processEvents` or a box: what is under way outside of it still needs its windows.

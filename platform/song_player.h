@@ -12,11 +12,11 @@ public:
 
     enum class Mode { stopped, playing, none };
 
-    /// Opens a song, closing the one before, and gives its device; 0 when there is no such song. Does not wait for a
-    /// slow file: its device is given, and what is wrong with it shows in the mode alone.
+    /// Opens a song, closing the one before, and returns its device; 0 when there is no such song. Does not wait for a
+    /// slow file: its device is returned, and what is wrong with it shows in the mode alone.
     virtual int open(const std::string& path) = 0;
 
-    /// Plays to the end of the song and stands stopped there.
+    /// Plays to the end of the song and stops there.
     virtual void play(int device) = 0;
 
     /// `none` for a device that is not open, and for a song that cannot be played.

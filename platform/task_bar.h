@@ -5,7 +5,7 @@
 
 namespace velmoriax::platform {
 
-/// Where the desktop's panel stands, in pixels of the screen.
+/// Where the desktop's panel is, in pixels of the screen.
 struct TaskBarPosition {
     enum Edge { leftEdge = 0, topEdge = 1, rightEdge = 2, bottomEdge = 3 };
     int left = 0;

@@ -39,7 +39,7 @@ void nameApplication() {
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
-/// The format is told, so that the readers of other formats are not loaded only to be asked.
+/// The format is named, so that the readers of other formats are not loaded only to be asked.
 QIcon programIcon() {
     QIcon icon;
     for (const int size : {16, 22, 24, 32, 48, 64})

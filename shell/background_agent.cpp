@@ -18,7 +18,7 @@ base::DateValue timeOfDay(base::DateValue moment) {
     return base::dateValueOf(base::civilTimeOf(moment));
 }
 
-/// Counts the seconds of a notification that stands; true at the thirtieth. Any other state begins anew.
+/// Counts the seconds of a notification that is shown; true at the thirtieth. Any other state starts again at 0.
 bool notificationTimesOut(AgentState& agent, bool notifOpen) {
     if (notifOpen && ++agent.notifTicks != notificationSeconds) return false;
     agent.notifTicks = 0;

@@ -19,14 +19,14 @@ struct AgentState {
     base::DateValue upAccum = 0; ///< time collected before the last midnight
     std::int16_t upDays = 0;
 
-    std::int16_t notifTicks = 0; ///< seconds that the notification has stood
+    std::int16_t notifTicks = 0; ///< seconds that the notification has been shown
     std::int16_t alertTicks = 0; ///< half-minutes since the last alert run
 };
 
 /// The process begins to count its uptime.
 void startUptime(AgentState& agent, base::DateValue now);
 
-/// One second of the hub. True when the notification has stood its 30 seconds and is to slide down.
+/// One second of the hub. True when the notification has been shown for 30 seconds and is to slide down.
 /// Days and collected time turn on texts with exact seconds: a tick that falls on another second loses the stretch of
 /// that day, and nothing makes up for it. In the very tick of midnight the uptime is the text of a negative time.
 bool timeUpTick(AgentState& agent, base::DateValue now, bool notifOpen);

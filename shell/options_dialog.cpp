@@ -10,7 +10,7 @@ namespace velmoriax::shell {
 
 namespace {
 
-/// Of the option buttons of one group a single one is chosen; check boxes stand alone.
+/// Of the option buttons of one group a single one is chosen; check boxes have no group.
 enum class Group { none, throws, tooltip, hemisphere, cards, minimize };
 
 using Dialog = OptionsDialog;
@@ -19,7 +19,7 @@ struct Row {
     Option option;
     std::string_view name;
     Group group;
-    void (Dialog::*guardar)(std::string_view); ///< null for the one control that writes only when a test lets it
+    void (Dialog::*guardar)(std::string_view); ///< null for the one control that writes only after a test
     std::string_view onValue;
     std::string_view offValue;
     std::string OptionHolders::*holder = nullptr; ///< set at once; without one the change acts at the next load
@@ -59,7 +59,7 @@ const Row& rowOf(Option option) {
     return *std::ranges::find(rows, option, &Row::option);
 }
 
-/// The option button of a stored value, within the group of `otherwise`, which stands for every other text.
+/// The option button of a stored value, within the group of `otherwise`, which is chosen for every other text.
 Option buttonOf(std::string_view value, Option otherwise) {
     const Group group = rowOf(otherwise).group;
     const auto* row =
@@ -95,7 +95,7 @@ void OptionsDialog::LeerIni(const std::string& lpFileName, std::string_view lpAp
     setEntry(OptionList::Combolist, entryOf(modules_, read(key::moduloInicial), &ModuleInfo::initialText));
     setEntry(OptionList::ComboBio, entryOf(alertLevels, read(key::nivelAlertas), &AlertLevel::caption));
     setCheck(O::CheckTooltips, read(key::desactivarTooltips) == word::tooltipsOff);
-    // Only a style that the file spells out leaves the silent mode open. The classic style that stands for a missing
+    // Only a style that the file spells out leaves the silent mode open. The classic style that is chosen for a missing
     // one does not: it opens with a click on it.
     const std::string style = read(key::estiloTooltips);
     setChosen(buttonOf(style, O::OptionXP));

@@ -75,7 +75,7 @@ public:
 
     /// Reads the keys of the section and sets the controls, in a fixed order. A control that changes runs its handler
     /// as if it had been clicked, so that opening the dialog has consequences: it tests the panel for the personal
-    /// tooltip, renews the autostart entry and sets the alert level anew. `lpKeyName` is not used; `vDefault` stands
+    /// tooltip, renews the autostart entry and sets the alert level anew. `lpKeyName` is not used; `vDefault` is used
     /// for an empty value.
     void LeerIni(const std::string& lpFileName, std::string_view lpAppName, std::string_view lpKeyName,
                  std::string_view vDefault = {});
@@ -84,7 +84,7 @@ public:
     void click(Option option);
     void choose(OptionList list, int entry);
 
-    /// The closing button gives the tray tip free; the window's close box does not.
+    /// The closing button allows the tray tip again; the window's close box does not.
     void accept() { shellState_.trayBusy = false; }
 
     // One routine a key: section, key and file are its own, the value alone is the caller's.

@@ -36,7 +36,7 @@ int notifLeft(const ScreenMeasures& screen, int windowWidth);
 int notifStartTop(const ScreenMeasures& screen);
 
 /// Where a slide up ends. 435 twips (29 pixels) stay free under the window, which is the place of a panel at the
-/// bottom. A thicker panel pushes the window up, so that it stands on the work area; with no panel at the bottom, or a
+/// bottom. A thicker panel pushes the window up, so that it is on the work area; with no panel at the bottom, or a
 /// thinner one, the 29 pixels stay free.
 int notifTop(const ScreenMeasures& screen, int windowHeight);
 

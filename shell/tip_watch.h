@@ -9,7 +9,8 @@
 namespace velmoriax::shell {
 
 /// The watch over the pointer on the tray icon: after half a second of rest the tip comes up, and it goes when the
-/// pointer leaves. It is told of moves, ticks and clicks, and says what is to be done; the flags that other windows see
+/// pointer leaves. It is called for moves, ticks and clicks, and returns what is to be done; the flags that other
+/// windows see
 /// (`trayBusy`, `tipShown`) it keeps in the shell's record.
 class TipWatch {
 public:
@@ -23,7 +24,7 @@ public:
     enum class TickAction { none, raise, takeAway };
 
     /// The pointer moved on the icon. `tooltips` is the option's value as read; `mayStart` is false inside a module's
-    /// load and while the description of a card stands.
+    /// load and while the description of a card is open.
     MoveAction pointerMoved(std::string_view tooltips, bool mayStart, const ShellState& state);
 
     /// A tick of the watch. A tip that is raised is marked as busy here; one that is taken away leaves all at rest.

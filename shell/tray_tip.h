@@ -14,7 +14,7 @@ namespace velmoriax::shell {
 /// The program's name as the tray, the tip and the boxes show it.
 inline constexpr std::string_view programName = "Velmoriax by ostrabe";
 
-/// What stands in for the lines while the birth date is not set. Both spellings are the program's own.
+/// What is shown instead of the lines while the birth date is not set. Both spellings are the program's own.
 inline constexpr std::string_view unsetBalloonText =
     "ToolTps dinámicos cuando se actualice la fecha de nacimiento para los biorritmos!";
 inline constexpr std::string_view unsetPersonalText =

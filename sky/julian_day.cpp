@@ -32,7 +32,7 @@ bool julianDayInRange(JulianDay day) {
 base::DateValue dateFromJulianDay(JulianDay day) {
     if (!julianDayInRange(day)) return 0;
     const double linear = day - (day < reformDay ? zeroDate + reformDays : zeroDate);
-    // The threshold lies two days late: everything below it is taken for a negative date.
+    // The threshold is two days late: everything below it is taken for a negative date.
     if (day >= zeroDate + 2) return linear;
     const double fraction = linear - std::trunc(linear);
     if (fraction == 0) return std::trunc(linear);

@@ -24,7 +24,7 @@ enum class MidnightStep {
     hideAgain   ///< half a minute after midnight, when the new day has been shown
 };
 
-/// Told by the text of the clock alone: a tick that misses the second misses the step.
+/// Decided by the text of the clock alone: a tick that misses the second misses the step.
 MidnightStep midnightStep(std::string_view clockText, std::string_view muteCod, bool refreshingView);
 
 /// Minutes since the parts of the window were last drawn anew.

@@ -16,8 +16,8 @@ constexpr std::array<std::u32string_view, 9> letterRows{
     U"ajrá", U"bks", U"clt", U"dmuú", U"envé", U"fñw", U"goxó", U"hpy", U"iqzí",
 };
 
-int letterValue(char western) {
-    const auto letter = static_cast<char32_t>(static_cast<unsigned char>(western));
+int letterValue(char byte) {
+    const auto letter = static_cast<char32_t>(static_cast<unsigned char>(byte));
     const auto* row = std::ranges::find_if(
         letterRows, [letter](std::u32string_view letters) { return letters.find(letter) != letters.npos; });
     return row == letterRows.end() ? 0 : static_cast<int>(row - letterRows.begin()) + 1;

@@ -79,7 +79,7 @@ std::optional<FinalReading> sumapalos(std::string_view swordsText, base::DateVal
 /// Takes a date for the reading; the final card is no longer open.
 void chooseDate(OracleState& state, base::CivilDate date);
 
-/// A new reading. The date and its choice stand.
+/// A new reading. The date and its choice stay.
 void resetReading(OracleState& state);
 
 /// The two lines of the date button, parted by a line feed.

@@ -25,7 +25,7 @@ inline base::CivilDate civilDate(QDate date) {
     return {date.year(), date.month(), date.day()};
 }
 
-/// Lets a picker take any date that a file may hold, with months and weekdays in English.
+/// Sets a picker up for any date that a file may hold, with months and weekdays in English.
 void openPicker(QDateEdit& picker);
 
 } // namespace velmoriax::widgets

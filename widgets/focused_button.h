@@ -6,7 +6,7 @@ class QWidget;
 
 namespace velmoriax::widgets {
 
-/// Lets Return press the push or tool button of `window` that has the focus, as the space bar does: the toolkit does
+/// Makes Return press the push or tool button of `window` that has the focus, as the space bar does: the toolkit does
 /// that for dialogs alone. True when the key was taken.
 bool pressFocusedButton(const QWidget& window, const QKeyEvent& event);
 

@@ -7,7 +7,7 @@
 namespace velmoriax::widgets {
 
 /// The back of a small window: a picture with a gold frame. In a window of another size than the picture's the frame
-/// keeps its corners and its ornament at the right, and only what lies between them is stretched.
+/// keeps its corners and its ornament at the right, and only what is between them is stretched.
 class FramedBack : public QWidget {
     Q_OBJECT
 

@@ -7,9 +7,9 @@
 
 namespace velmoriax::widgets {
 
-/// Opens what a picture has to tell when the mouse moves on it: at the fifth move inside, and not after a time. From
+/// Opens what explains a picture when the mouse moves on it: at the fifth move inside, and not after a time. From
 /// the first move on the mouse is held, so that the move that leaves the picture is seen, wherever it goes; there all
-/// is closed and the mouse let go. It is let go as well when the window hides, loses the focus or stands behind a box.
+/// is closed and the mouse released. It is released as well when the window hides, loses the focus or is behind a box.
 class HoverWatch : public QObject {
     Q_OBJECT
 

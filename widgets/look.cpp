@@ -9,7 +9,7 @@
 #include <QVariant>
 #include <QWidget>
 
-/// The sheet lies in a static library: its resource has to be asked for by name, outside any namespace.
+/// The sheet is in a static library: its resource has to be asked for by name, outside any namespace.
 static void openResources() {
     Q_INIT_RESOURCE(look);
 }
@@ -18,29 +18,29 @@ namespace velmoriax::widgets::look {
 
 namespace {
 
-constexpr QRgb groundColor = 0xff0a0d24;
+constexpr QRgb backgroundColor = 0xff0a0d24;
 constexpr QRgb panelColor = 0xff141a3d;
 constexpr QRgb raisedColor = 0xff1d2552;
-constexpr QRgb ivoryColor = 0xfff3ead3;
+constexpr QRgb textColor = 0xfff3ead3;
 constexpr QRgb quietColor = 0xffb9b3a6;
 constexpr QRgb goldColor = 0xffd4ab52;
 constexpr QRgb disabledColor = 0xff7d7f92;
 
 QPalette nightPalette() {
     QPalette palette;
-    palette.setColor(QPalette::Window, ground());
-    palette.setColor(QPalette::WindowText, ivory());
+    palette.setColor(QPalette::Window, background());
+    palette.setColor(QPalette::WindowText, text());
     palette.setColor(QPalette::Base, panel());
     palette.setColor(QPalette::AlternateBase, QColor(raisedColor));
-    palette.setColor(QPalette::Text, ivory());
+    palette.setColor(QPalette::Text, text());
     palette.setColor(QPalette::PlaceholderText, quietText());
     palette.setColor(QPalette::Button, QColor(raisedColor));
-    palette.setColor(QPalette::ButtonText, ivory());
+    palette.setColor(QPalette::ButtonText, text());
     palette.setColor(QPalette::BrightText, Qt::white);
     palette.setColor(QPalette::ToolTipBase, panel());
-    palette.setColor(QPalette::ToolTipText, ivory());
+    palette.setColor(QPalette::ToolTipText, text());
     palette.setColor(QPalette::Highlight, gold());
-    palette.setColor(QPalette::HighlightedText, ground());
+    palette.setColor(QPalette::HighlightedText, background());
     palette.setColor(QPalette::Link, gold());
     palette.setColor(QPalette::LinkVisited, gold());
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
@@ -58,16 +58,16 @@ void setSerif(QWidget& widget, double timesLarger) {
 
 } // namespace
 
-QColor ground() {
-    return QColor(groundColor);
+QColor background() {
+    return QColor(backgroundColor);
 }
 
 QColor panel() {
     return QColor(panelColor);
 }
 
-QColor ivory() {
-    return QColor(ivoryColor);
+QColor text() {
+    return QColor(textColor);
 }
 
 QColor gold() {

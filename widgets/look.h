@@ -12,16 +12,16 @@ namespace velmoriax::widgets::look {
 /// Sets palette, fonts and style sheet for the whole program.
 void apply(QApplication& application);
 
-QColor ground(); ///< the windows' midnight blue, also under the moon pictures
-QColor panel();  ///< grounds of fields and lists
-QColor ivory();  ///< text
-QColor gold();   ///< accents and hairlines
+QColor background(); ///< the windows' midnight blue, also under the moon pictures
+QColor panel();      ///< grounds of fields and lists
+QColor text();       ///< text
+QColor gold();       ///< accents and hairlines
 QColor quietText();
 
 /// Marks a label as a title or a card name: serif, larger, gold.
 void asTitle(QWidget& label);
 
-/// Gives a pane of text the serif of the cards, in a size for reading.
+/// Sets the serif of the cards for a pane of text, in a size for reading.
 void asReading(QWidget& pane);
 
 /// Marks a label as secondary: quieter text.

@@ -43,7 +43,7 @@ public:
     QSize sizeHint() const override;
     bool hasHeightForWidth() const override { return false; }
 
-    /// Where the picture itself stands within the box.
+    /// Where the picture itself is within the box.
     QRect pictureRect() const;
 
 Q_SIGNALS:

@@ -6,7 +6,7 @@
 namespace velmoriax::widgets {
 
 /// A bounded number that is stepped or typed. What is typed counts when it is complete, not at each key, and a value
-/// set from code tells of itself inside the call, as one set by hand does. Its text is a control with a name of its
+/// set from code emits its signal inside the call, as one set by hand does. Its text is a control with a name of its
 /// own.
 class SpinBox : public QSpinBox {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     QString face() const;
     void setFace(const QString& name);
 
-    /// Sets the value and tells nobody.
+    /// Sets the value without a signal.
     void showValue(int value);
 
 protected:

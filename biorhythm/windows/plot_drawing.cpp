@@ -23,10 +23,10 @@ void styleAxis(QCPAxis& axis, const QFont& font) {
     axis.setBasePen(QPen(widgets::look::quietText(), 0));
     axis.setTickPen(Qt::NoPen);
     axis.setSubTickPen(Qt::NoPen);
-    axis.setTickLabelColor(widgets::look::ivory());
+    axis.setTickLabelColor(widgets::look::text());
     axis.setTickLabelFont(font);
     axis.grid()->setPen(QPen(faint(widgets::look::quietText(), 34), 0));
-    axis.grid()->setZeroLinePen(QPen(faint(widgets::look::ivory(), 150), 0));
+    axis.grid()->setZeroLinePen(QPen(faint(widgets::look::text(), 150), 0));
 }
 
 /// The plot, with one graph for each series.
@@ -53,7 +53,7 @@ private:
 Drawing::Drawing(QWidget* parent) : QCustomPlot(parent) {
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setBackground(widgets::look::ground());
+    setBackground(widgets::look::background());
     axisRect()->setBackground(plotBackground());
     axisRect()->setMinimumMargins(QMargins(0, 2, 2, 0));
     addRows();
@@ -89,7 +89,7 @@ void Drawing::addLegend() {
     legend->setWrap(cycleCount);
     legend->setBrush(Qt::NoBrush);
     legend->setBorderPen(Qt::NoPen);
-    legend->setTextColor(widgets::look::ivory());
+    legend->setTextColor(widgets::look::text());
     legend->setFont(font());
     legend->setIconSize(30, 16);
     legend->setMargins(QMargins(4, 0, 4, 0));

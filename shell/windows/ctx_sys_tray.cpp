@@ -83,7 +83,7 @@ void CtxSysTray::pointerMoved() {
     switch (watch_.pointerMoved(tooltips(), mayStart, context_.state)) {
     case TipWatch::MoveAction::measure:
         measureTrayCell();
-        UpdateIcon(""); // a name left from the time when tips were off would stand beside ours
+        UpdateIcon(""); // a name left from the time when tips were off would be shown beside ours
         break;
     case TipWatch::MoveAction::showName:
         UpdateIcon(programName);
@@ -113,7 +113,7 @@ void CtxSysTray::measureTrayCell() {
     shell.taskBarAtBottom = shell.taskBarLocation == platform::TaskBarPosition::bottomEdge;
 }
 
-/// The tray tells the icon's true rectangle, wherever the panel has moved it meanwhile.
+/// The tray reports the icon's true rectangle, wherever the panel has moved it meanwhile.
 void CtxSysTray::tickTooltip() {
     const bool onIcon = context_.desktop.tray.geometry().contains(QCursor::pos());
     switch (watch_.tick(tooltips(), onIcon, context_.state)) {
@@ -135,7 +135,7 @@ void CtxSysTray::raiseTip() {
     if (!context_.state.viewLoading) context_.windows.touch("FrmToolTip");
 }
 
-/// Of both styles, since the style may have been changed while the tip stood.
+/// Of both styles, since the style may have been changed while the tip was shown.
 void CtxSysTray::takeTipAway() {
     context_.windows.unload("FrmToolTip");
     context_.state.tipShown = false;

@@ -16,7 +16,7 @@ namespace velmoriax::shell {
 /// A module's hold on the tray icon. Each module has one; the icon of the module that is loaded is the only one. It
 /// turns what happens over the icon into events for its window, and raises the tip while the pointer rests there.
 ///
-/// A tray window tells of the pointer. A tray item does not: there the panel shows our text by itself, so that the
+/// A tray window reports the pointer. A tray item does not: there the panel shows our text by itself, so that the
 /// text is the tip, and is made anew once a minute while tips are on.
 class CtxSysTray : public QObject {
     Q_OBJECT

@@ -13,7 +13,7 @@ class frmAbout;
 
 namespace velmoriax::shell {
 
-/// Names the program and its version, tells what the modules are for, and leads to the help and to the maker's pages.
+/// Names the program and its version, says what the modules are for, and leads to the help and to the maker's pages.
 class frmAbout : public SecondaryWindow {
     Q_OBJECT
 

@@ -12,7 +12,7 @@ class FrmToolTip;
 
 namespace velmoriax::shell {
 
-/// The personal tooltip: stands over the tray icon for as long as the pointer rests there, and never under the pointer.
+/// The personal tooltip: shown over the tray icon while the pointer rests there, and never under the pointer.
 class FrmToolTip : public SecondaryWindow {
     Q_OBJECT
 

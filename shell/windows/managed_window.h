@@ -18,7 +18,7 @@ public:
     /// Unloads the window for real and takes it off the registry.
     virtual void unload() = 0;
 
-    /// Sets the state to normal, shows the window and gives it the focus.
+    /// Sets the state to normal, shows the window and focuses it.
     virtual void showNormalState() = 0;
 };
 

@@ -91,7 +91,7 @@ void ModuleWindow::hideToTray() {
     onHidden();
 }
 
-/// What each answer to the icon does first: a window that has caught the mouse lets it go, and no tip stands over what
+/// What each answer to the icon does first: a window that holds the mouse releases it, and no tip covers what
 /// comes up.
 void ModuleWindow::releaseTip() {
     if (QWidget* holder = QWidget::mouseGrabber()) holder->releaseMouse();

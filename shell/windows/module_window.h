@@ -45,7 +45,7 @@ public:
     /// Hides to the tray, or to the taskbar when there is no tray to come back from.
     void hideToTray();
 
-    /// False once the window was unloaded: what let events run inside it is to touch nothing more.
+    /// False once the window was unloaded: what has processed events inside it touches nothing more.
     bool isLoaded() const;
 
     CtxSysTray& ctxSysTray1() { return tray_; }
@@ -57,7 +57,7 @@ public:
     QAction* menuAction(std::string_view name) const;
 
 protected:
-    /// Connects the buttons and builds the menus of the navigation table. To be called when the controls stand.
+    /// Connects the buttons and builds the menus of the navigation table. To be called when the controls exist.
     void buildNavigation();
 
     virtual void beforeOptions() {}                  ///< runs ahead of everything else in the load routine

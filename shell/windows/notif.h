@@ -13,8 +13,8 @@ class Notif;
 
 namespace velmoriax::shell {
 
-/// The notification: slides up over the panel to tell `alertText` and slides away again. It takes no focus and stands
-/// above the other windows.
+/// The notification: slides up over the panel to show `notificationText` and slides away again. It takes no focus and
+/// is above the other windows.
 class Notif : public SecondaryWindow {
     Q_OBJECT
 
@@ -29,9 +29,9 @@ public:
     static constexpr int up = 0;
     static constexpr int down = 1;
 
-    /// Slides `Ventana`, which is this window, up or down. One that stands goes down in either direction. Events run at
-    /// each step, so that a slide may begin inside another: both then move the one window, and each ends where it has
-    /// to.
+    /// Slides `Ventana`, which is this window, up or down. One that is shown goes down in either direction. Events run
+    /// at each step, so that a slide may begin inside another: both then move the one window, and each ends where it
+    /// has to.
     void SlideForm(QWidget& Ventana, int Direction);
 
 protected:

@@ -12,14 +12,14 @@ class DesktopNotification;
 
 namespace velmoriax::shell {
 
-/// Tells through the desktop's own notifications, where a window cannot choose its place: there ours would come up in
+/// Shows texts by the desktop's own notifications, where a window cannot choose its place: there ours would come up in
 /// the middle of the screen.
 class DesktopsOwnNotification : public platform::Notification {
 public:
     explicit DesktopsOwnNotification(WindowContext& context);
     ~DesktopsOwnNotification() override;
 
-    /// A new text takes the place of one that stands.
+    /// A new text replaces the one on show.
     void slideUp(const std::string& text) override;
     void show(const std::string& text) override { slideUp(text); }
     void slideDown() override { close(); }

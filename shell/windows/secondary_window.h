@@ -23,7 +23,7 @@ public:
 
     void showNormalState() override;
 
-    /// False once the window was unloaded: what let events run inside it is to touch nothing more.
+    /// False once the window was unloaded: what has processed events inside it touches nothing more.
     bool isLoaded() const { return !unloaded_; }
 
 protected:

@@ -6,7 +6,7 @@ namespace velmoriax::shell {
 class WindowRegistry;
 struct WindowContext;
 
-/// Adds the windows that stand beside every module: options, about box, notification and personal tooltip.
+/// Adds the windows that can be open beside every module: options, about box, notification and personal tooltip.
 void addWindows(WindowRegistry& windows, WindowContext& context);
 
 } // namespace velmoriax::shell

@@ -8,7 +8,7 @@ namespace velmoriax::shell {
 
 class Notif;
 
-/// Tells through the window `Notif`.
+/// Shows texts in the window `Notif`.
 class SlidingNotification : public platform::Notification {
 public:
     explicit SlidingNotification(WindowContext& context) : context_(context) {}

@@ -16,7 +16,7 @@
 
 namespace velmoriax::shell {
 
-/// The windows of the program by name. Within a subsystem a window is asked for by its type, which tells its name as
+/// The windows of the program by name. Within a subsystem a window is asked for by its type, which has its name as
 /// `windowName`; the windows of other subsystems are known by name alone.
 class WindowRegistry : public QObject {
 public:

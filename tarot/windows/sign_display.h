@@ -34,8 +34,8 @@ class SignPane : public QLabel {
 public:
     explicit SignPane(QWidget* parent = nullptr);
 
-    /// Shows a text in the middle of the place, as large as it needs. Where it finds no room, its letters are made
-    /// smaller.
+    /// Shows a text in the middle of the place, as large as it needs. Where there is not enough space, its letters are
+    /// made smaller.
     void showIn(const QRect& place, const QString& text);
 
 private:

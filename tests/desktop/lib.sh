@@ -84,7 +84,7 @@ window_titles() {
 has_window() { window_titles | grep -x "$1" > /dev/null; }
 window_is() { [ "$(window_titles)" = "$1" ]; }
 no_window() { [ -z "$(window_titles)" ]; }
-press_in() { # TITLE KEY: gives the window the focus, as a user does before he types
+press_in() { # TITLE KEY: focuses the window, as a user does before typing
   xdotool windowactivate --sync "$(window_id "$1")"
   sleep 0.3
   xdotool key --clearmodifiers "$2"
@@ -96,13 +96,13 @@ tray_icons() { xwininfo -root -tree | grep -cE '"Velmoriax" "Velmoriax"\) +[0-9]
 one_icon() { [ "$(tray_icons)" = 1 ]; }
 no_icon() { [ "$(tray_icons)" = 0 ]; }
 
-# What stands beside the window manager: tips, menus, the notification. "TITLE WxH+X+Y" each.
+# What the window manager does not know: tips, menus, the notification. "TITLE WxH+X+Y" each.
 popups() {
   xwininfo -root -children |
     sed -nE 's/^ +0x[0-9a-f]+ "([^"]*)": \("Velmoriax" "Velmoriax"\) +([0-9]+x[0-9]+)\+[^ ]* +(\+[^ ]*)$/\1 \2\3/p'
 }
 
-# Where the icon stands: "X Y" of its middle.
+# Where the icon is: "X Y" of its middle.
 icon_place() {
   xwininfo -root -tree | grep -E '"Velmoriax" "Velmoriax"\) +[0-9]{2}x[0-9]{2}\+' |
     sed -E 's/.* ([0-9]+)x([0-9]+)\+[^ ]* +\+([0-9]+)\+([0-9]+).*/\1 \2 \3 \4/' |

@@ -69,7 +69,7 @@ TEST(DesktopNotification, SpeaksTheProtocolAndFollowsTheAnswers) {
     ASSERT_EQ(server.shown.size(), 2);
     EXPECT_EQ(server.shown[0].body, "a &lt; b &amp; c\nnext");
     EXPECT_EQ(server.shown[0].replaced, 0U);
-    EXPECT_EQ(server.shown[1].replaced, 7U) << "one stands at a time";
+    EXPECT_EQ(server.shown[1].replaced, 7U) << "one is shown at a time";
     EXPECT_EQ(server.shown[0].actions.value(0), "default");
     EXPECT_EQ(server.shown[0].hints.value("urgency").typeId(), QMetaType::UChar) << "servers refuse another type";
 

@@ -20,13 +20,13 @@ bool holdsAny(std::string_view text, std::string_view characters) {
     return text.find_first_of(characters) != text.npos;
 }
 
-/// A name that the program could use: the format itself gives some characters a meaning.
+/// A name that the program could use: some characters have a meaning in the format itself.
 bool isName(std::string_view name) {
     return !name.empty() && !holdsAny(name, "[]=;\r\n") && !holdsAny(name.substr(0, 1), blanks) &&
            !holdsAny(name.substr(name.size() - 1), blanks);
 }
 
-/// A value that the format gives back as it is.
+/// A value that the format returns as it is.
 bool isPlainValue(std::string_view value) {
     const auto ends = [&](char end) { return value.starts_with(end) || value.ends_with(end); };
     return !holdsAny(value, lineEnds) && !ends(' ') && !ends('\t') && !ends('"') && !ends('\'');
@@ -105,7 +105,7 @@ void options(std::string_view input) {
     law(store.holders.alertLevel == level, "another key's write leaves the level");
 }
 
-/// left | top | width | height, as they stand in the options file
+/// left | top | width | height, as the options file has them
 void position(std::string_view input) {
     test::FakeFiles files;
     shell::OptionsStore store(files);

@@ -7,8 +7,8 @@
 #include <stdexcept>
 #include <string_view>
 
-/// The readers of the program under inputs that nobody thought of. A target takes any bytes, gives them to a reader and
-/// holds the result against laws that every input has to keep. The fuzzer makes the inputs up; the kept ones of
+/// The readers of the program under inputs that nobody thought of. A target takes any bytes, passes them to a reader
+/// and holds the result against laws that every input has to keep. The fuzzer makes the inputs up; the kept ones of
 /// tests/corpus/ run in every test.
 namespace velmoriax::fuzz {
 

@@ -59,7 +59,7 @@ TEST_F(CardOfDay, TheNewDayComesUpAMomentAfterMidnightAndGoes) {
     clock.set({2026, 11, 14}, {23, 58, 0});
     auto& window = start();
     run({2026, 11, 14}, {23, 58, 0}, 121);
-    EXPECT_EQ(tipOf(window, "ImgCartadia"), "XVII. The Star") << "the old card stands at 0:00:00";
+    EXPECT_EQ(tipOf(window, "ImgCartadia"), "XVII. The Star") << "the old card is shown at 0:00:00";
     EXPECT_FALSE(staysOnTop(window));
     run({2026, 11, 15}, {0, 0, 1}, 29);
     EXPECT_EQ(tipOf(window, "ImgCartadia"), "XVIII. The Moon");
@@ -196,7 +196,7 @@ TEST_F(CardOfDay, WelcomesAtEachLoadWhileNoBirthDateIsSet) {
     press(window, "PictActualize");
     EXPECT_TRUE(heard(2));
     const std::string welcome = "Welcome to Velmoriax, change the birth date to calculate biorhythms.";
-    EXPECT_EQ(notification.texts, std::vector{welcome}) << "it stands, and stays";
+    EXPECT_EQ(notification.texts, std::vector{welcome}) << "it is shown, and stays";
     notification.open = false;
     press(window, "PictActualize");
     EXPECT_TRUE(heard(3));

@@ -10,7 +10,7 @@ TEST_F(Hub, StartsWithAnAlertAndRunsTheNextAfterHalfAnHour) {
     option(shell::key::nivelAlertas.data(), "Only actual situation");
     start();
     EXPECT_TRUE(files.has("\\biofinal.dat")) << "files of a first start come into being";
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !notification.texts.empty(); })) << "when the first window stands";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !notification.texts.empty(); })) << "when the first window is shown";
     EXPECT_TRUE(notification.texts[0].starts_with("Physical: "));
     EXPECT_FALSE(modules.biorhythms.alerts.startupAlert);
 

@@ -90,7 +90,7 @@ TEST_F(OptionsDialogTest, DefaultsAndClicksActAtOnceAndAreFoundAtTheNextOpening)
     const auto ofEmptyFile = acting(holders());
     write(wholeFile);
     readAll(options_);
-    EXPECT_EQ(acting(holders()), ofEmptyFile) << "a missing value acts as the one that stands in the whole file";
+    EXPECT_EQ(acting(holders()), ofEmptyFile) << "a missing value acts as the one of the whole file";
     open(dialog_);
     for (const O clicked :
          {O::CheckMini,    O::CheckMini,    O::OptReal,       O::OptObj,           O::OptionClassic,

@@ -29,7 +29,7 @@ TEST(ProfileText, AWriteChangesThatOneLineAlone) {
     const test::Table<std::string, std::string, const char*> rows{
         {"", "[s]\r\nk=v\r\n", "a new file"},
         {"[s]\nother=1\n", "[s]\nother=1\nk=v\n", "the file's own line ends"},
-        {"[s]\r\nK = old\r\nz=1\r\n", "[s]\r\nK =v\r\nz=1\r\n", "in place, under the name as it stands"},
+        {"[s]\r\nK = old\r\nz=1\r\n", "[s]\r\nK =v\r\nz=1\r\n", "in place, under the name as it is spelled"},
         {"[s]\r\na=1\r\n\r\n[t]\r\nk=t\r\n", "[s]\r\na=1\r\nk=v\r\n\r\n[t]\r\nk=t\r\n",
          "behind the section's last line"},
         {"\xFFjunk\r\n[t]\r\nx", "\xFFjunk\r\n[t]\r\nx\r\n[s]\r\nk=v\r\n", "a new section, at the end"},

@@ -21,9 +21,9 @@ struct TipWatchTest : testing::Test {
     TipWatch::MoveAction move(std::string_view tooltips = on) { return watch.pointerMoved(tooltips, true, state); }
     TipWatch::TickAction tick(std::string_view tooltips = on) { return watch.tick(tooltips, onIcon, state); }
     /// Ticks until something is to be done; how many it took, 0 when nothing came in a minute.
-    int ticksUntil(TipWatch::TickAction deed) {
+    int ticksUntil(TipWatch::TickAction action) {
         for (int n = 1; n <= 600; ++n)
-            if (tick() == deed) return n;
+            if (tick() == action) return n;
         return 0;
     }
 };
@@ -75,7 +75,7 @@ TEST_F(TipWatchTest, SwitchedOffOrHeldBackItSleeps) {
 
     TipWatch held;
     held.pointerMoved(on, false, state);
-    EXPECT_FALSE(held.wantsTicks(on)) << "a module is loading, or a description stands";
+    EXPECT_FALSE(held.wantsTicks(on)) << "a module is loading, or a description is open";
 }
 
 /// A line that counts how often it is worked out.
@@ -174,7 +174,7 @@ TEST(PopupPlaces, PersonalTipStandsOverTheLowestTwentieth) {
 
     EXPECT_EQ(personalTipTop(screen, 104), 857) << "2150 twips are 143 pixels";
     EXPECT_EQ(personalTipTop(screen, 90), 857);
-    EXPECT_EQ(personalTipTop(screen, 160), 810) << "a tall window stands on the panel, not over the icon";
+    EXPECT_EQ(personalTipTop(screen, 160), 810) << "a tall window is on the panel, not over the icon";
     EXPECT_EQ(personalTipLeft(screen, 400, 700), 500);
     EXPECT_EQ(personalTipLeft(screen, 400, 1250), 880) << "whole on the screen";
     EXPECT_EQ(personalTipLeft(screen, 400, 10), 0);

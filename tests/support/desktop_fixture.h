@@ -51,7 +51,7 @@ protected:
     static std::string tipOf(const QWidget& window, const char* name) {
         return control<QWidget>(window, name).toolTip().toStdString();
     }
-    /// The letters by which the controls of a window are reached together with Alt; each may stand once.
+    /// The letters by which the controls of a window are reached together with Alt; each may occur once.
     static QStringList mnemonicsOf(const QWidget& window) {
         QStringList letters;
         for (const QWidget* widget : window.findChildren<QWidget*>()) {

@@ -11,7 +11,7 @@ namespace velmoriax::test {
 
 namespace fs = std::filesystem;
 
-/// A variable of the environment for as long as this stands.
+/// A variable of the environment for as long as this object lives.
 class Variable {
 public:
     Variable(const char* name, const std::string& value) : name_(name) {

@@ -22,7 +22,7 @@
 #include <map>
 #include <set>
 
-/// Stand-ins for the desktop that a test moves by hand.
+/// Fakes of the desktop's services, which a test controls.
 namespace velmoriax::test {
 
 struct FakeClock : platform::Clock {
@@ -148,7 +148,7 @@ struct FakeBoxes : platform::MessageBoxes {
     std::deque<bool> yesNoAnswers;
     std::deque<std::optional<std::string>> textAnswers;
     std::deque<std::optional<std::string>> fileAnswers;
-    std::function<void()> whileOpen; ///< runs while a box stands
+    std::function<void()> whileOpen; ///< runs while a box is open
 
     void show(platform::BoxIcon icon, const std::string& text, const std::string& title) override {
         shown.push_back({icon, text, title});

@@ -194,7 +194,7 @@ TEST_F(Ambient, StartsByTheTwoOptions) {
         {"yes", "/music/own.mid", true, {"/music/own.mid"}, "the user's own song"},
         {"nop", "", false, {}, "switched off"},
         {"Yes", "", false, {}, "words are compared exactly"},
-        {"yes", "/music/gone.mid", true, {}, "the switch stands on over a song that is missing"},
+        {"yes", "/music/gone.mid", true, {}, "the switch is on although the song is missing"},
     };
     for (const auto& [wanted, song, on, starts, why] : rows) {
         options.setOption(shell::key::soundAmbient, wanted);

@@ -30,7 +30,7 @@ struct SecondaryWindowsTest : test::WindowFixture {
         window.showNormalState();
         return window;
     }
-    /// At the left end, where the mark stands: a button answers on its mark and caption alone.
+    /// At the left end, where the mark is: a button answers on its mark and caption alone.
     void click(const QWidget& window, const char* name) {
         auto& widget = control<QWidget>(window, name);
         QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(12, widget.height() / 2));
@@ -186,7 +186,7 @@ TEST_F(NotifTest, CloseMarkAndMinimisedModuleTakeItAway) {
     press(*window(), "Image1");
     EXPECT_FALSE(window() || sliding.isOpen());
     closeNotification(context);
-    EXPECT_FALSE(window()) << "nothing stands, nothing is touched";
+    EXPECT_FALSE(window()) << "nothing is shown, nothing is touched";
     sliding.slideUp("text");
     closeNotification(context);
     EXPECT_FALSE(window() || sliding.isOpen());
