@@ -24,7 +24,7 @@ QDBusMessage callTo(const QString& method) {
 }
 
 /// The body is read as markup, in which these three characters speak.
-QString escaped(QString text) {
+QString escaped(const QString& text) {
     return text.toHtmlEscaped().remove(u'\r');
 }
 

@@ -55,7 +55,7 @@ bool writeAll(int descriptor, std::string_view bytes) {
 
 std::optional<std::string> readAll(int descriptor) {
     std::string bytes;
-    std::string buffer(64 * 1024, '\0');
+    std::string buffer(std::size_t{64} * 1024, '\0');
     while (true) {
         const ::ssize_t count = ::read(descriptor, buffer.data(), buffer.size());
         if (count < 0 && errno == EINTR) continue;
@@ -166,16 +166,16 @@ std::string DiskFiles::applicationDirectory() const {
 }
 
 fs::path DiskFiles::native(const std::string& path) const {
-    const fs::path mapped = platform::fileSystemPath(path, applicationDirectory());
+    fs::path mapped = platform::fileSystemPath(path, applicationDirectory());
     const bool isOptions = mapped == folders_.user / "opciones.ini";
     if (!isOptions || ::access(mapped.c_str(), F_OK) == 0) return mapped;
     // A folder brought from another system may have the other spelling of the name.
-    const fs::path other = folders_.user / "Opciones.ini";
+    fs::path other = folders_.user / "Opciones.ini";
     return ::access(other.c_str(), F_OK) == 0 ? other : mapped;
 }
 
 fs::path DiskFiles::readPath(const std::string& path) const {
-    const fs::path own = native(path);
+    fs::path own = native(path);
     if (folders_.user == folders_.supplied || ::access(own.c_str(), F_OK) == 0) return own;
     const fs::path inside = own.lexically_relative(folders_.user);
     const bool outside = inside.empty() || *inside.begin() == "..";

@@ -193,7 +193,7 @@ void SdlSoundDevice::stopSong() {
 }
 
 void SdlSoundDevice::freeMusic() {
-    stopSong();
+    SdlSoundDevice::stopSong();
     if (music_) Mix_FreeMusic(music_);
     music_ = nullptr;
 }

@@ -38,7 +38,6 @@ def frame(S):
 def wheel(S):
     """six spokes, rim of gold and red, studded"""
     x, y = HUB
-    ring = lambda r0, r1: circ(x, y, r1)+circ(x, y, r0)
     for i in range(6):
         a = i*60+30
         p, q = pol(x, y, 30, a), pol(x, y, RIM-22, a)

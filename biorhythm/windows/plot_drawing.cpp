@@ -9,8 +9,6 @@ namespace velmoriax::biorhythm {
 
 namespace {
 
-namespace look = widgets::look;
-
 constexpr double highest = 1.12; ///< of the value axis; above 1, so that a line at 1 is drawn with its whole width
 constexpr double rowCount = chartRowCount;
 
