@@ -31,8 +31,7 @@ std::vector<Panel> panelsAround(const QRect& screen, const QRect& work) {
     return panels;
 }
 
-} // namespace
-
+/// Cuts a band off the edge of the area that it runs along.
 QRect withoutBand(QRect area, const QRect& band) {
     const QRect cut = area & band;
     if (cut.isEmpty()) return area;
@@ -47,6 +46,29 @@ QRect withoutBand(QRect area, const QRect& band) {
         area.setRight(cut.left() - 1);
     }
     return area;
+}
+
+} // namespace
+
+std::vector<QRect> reservedBands(const std::vector<int>& strut, const QSize& desktop) {
+    if (strut.size() < 12) return {};
+    const auto [left, right, top, bottom] = std::tuple(strut[0], strut[1], strut[2], strut[3]);
+    const std::array<QRect, 4> bands{{
+        {QPoint(0, strut[4]), QPoint(left - 1, strut[5])},
+        {QPoint(desktop.width() - right, strut[6]), QPoint(desktop.width() - 1, strut[7])},
+        {QPoint(strut[8], 0), QPoint(strut[9], top - 1)},
+        {QPoint(strut[10], desktop.height() - bottom), QPoint(strut[11], desktop.height() - 1)},
+    }};
+    std::vector<QRect> reserved;
+    std::ranges::copy_if(bands, std::back_inserter(reserved), [](const QRect& band) { return !band.isEmpty(); });
+    return reserved;
+}
+
+QRect workArea(const QRect& screen, double ratio, const std::vector<QRect>& bands) {
+    QRect area = screen;
+    for (const QRect& band : bands) area = withoutBand(area, band);
+    return {screen.topLeft() + (QPointF(area.topLeft() - screen.topLeft()) / ratio).toPoint(),
+            (QSizeF(area.size()) / ratio).toSize()};
 }
 
 std::optional<platform::TaskBarPosition> panelOf(const QRect& screen, const QRect& work, const QRect& icon) {

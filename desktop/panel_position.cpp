@@ -26,24 +26,18 @@ Property propertyOf(::xcb_connection_t* connection, ::xcb_window_t window, ::xcb
     return {first, first + reply->value_len};
 }
 
-/// The bands along the edges of the whole desktop that windows keep for themselves, in native pixels.
-std::vector<QRect> reservedBands(const QSize& desktop) {
+/// The bands along the edges of the desktop that all windows reserve, in native pixels.
+std::vector<QRect> allReservedBands(const QSize& desktop) {
     ::xcb_connection_t* connection = x11Connection();
     const ::xcb_window_t root = ::xcb_setup_roots_iterator(::xcb_get_setup(connection)).data->root;
     const ::xcb_atom_t strut = x11Atom(connection, "_NET_WM_STRUT_PARTIAL");
-    std::vector<QRect> bands;
+    std::vector<QRect> all;
     for (const ::xcb_window_t window : propertyOf(connection, root, x11Atom(connection, "_NET_CLIENT_LIST"))) {
-        const Property p = propertyOf(connection, window, strut);
-        if (p.size() < 12) continue;
-        const std::vector<int> n(p.begin(), p.end());
-        const int right = desktop.width();
-        const int bottom = desktop.height();
-        if (n[0]) bands.emplace_back(QPoint(0, n[4]), QPoint(n[0] - 1, n[5]));
-        if (n[1]) bands.emplace_back(QPoint(right - n[1], n[6]), QPoint(right - 1, n[7]));
-        if (n[2]) bands.emplace_back(QPoint(n[8], 0), QPoint(n[9], n[2] - 1));
-        if (n[3]) bands.emplace_back(QPoint(n[10], bottom - n[3]), QPoint(n[11], bottom - 1));
+        const Property numbers = propertyOf(connection, window, strut);
+        const auto bands = reservedBands({numbers.begin(), numbers.end()}, desktop);
+        all.insert(all.end(), bands.begin(), bands.end());
     }
-    return bands;
+    return all;
 }
 
 /// The screen in native pixels: its corner is the same in both, its size is not.
@@ -57,21 +51,12 @@ QSize nativeDesktopSize() {
     return QSize(all.right() + 1, all.bottom() + 1);
 }
 
-QRect workAreaByPanels(const QScreen& screen) {
-    QRect area = nativeGeometry(screen);
-    for (const QRect& band : reservedBands(nativeDesktopSize())) area = withoutBand(area, band);
-    const QRect native = nativeGeometry(screen);
-    const double ratio = screen.devicePixelRatio();
-    return {native.topLeft() + (QPointF(area.topLeft() - native.topLeft()) / ratio).toPoint(),
-            (QSizeF(area.size()) / ratio).toSize()};
-}
-
 } // namespace
 
 QRect workAreaOf(const QScreen& screen) {
     const bool onX11 = x11Connection() != nullptr;
     if (!onX11 || QGuiApplication::screens().size() < 2) return screen.availableGeometry();
-    return workAreaByPanels(screen);
+    return workArea(nativeGeometry(screen), screen.devicePixelRatio(), allReservedBands(nativeDesktopSize()));
 }
 
 std::optional<platform::TaskBarPosition> PanelPosition::position() const {

@@ -11,12 +11,12 @@ namespace velmoriax::desktop {
 
 class Tray;
 
-/// What panels leave of a screen, in logical pixels. On a desktop of several screens the window manager reports one
-/// area for all of them together, which says nothing of the single screen: there the panels are asked themselves.
+/// What panels leave of a screen, in logical pixels. On a desktop of several screens the window manager
+/// reports one area for all of them together, which says nothing of the single screen: there the area is computed from
+/// what each panel reserves.
 QRect workAreaOf(const QScreen& screen);
 
-/// The panel of the primary screen. With panels at several edges it is the one that holds the tray icon; where that is
-/// not known, the one at the bottom, then the thickest.
+/// The panel of the primary screen, as panelOf() chooses it.
 class PanelPosition : public platform::TaskBar {
 public:
     explicit PanelPosition(const Tray& tray) : tray_(tray) {}

@@ -13,7 +13,7 @@ namespace {
 long standardOffset(std::time_t instant, long fallback) {
     constexpr std::time_t month = 30L * 86400;
     for (int distance = 1; distance <= 12; ++distance)
-        for (const int sign : {-1, 1}) {
+        for (const std::time_t sign : {-1, 1}) {
             std::tm fields{};
             if (localFields(instant + sign * distance * month, fields) && fields.tm_isdst == 0) return fields.tm_gmtoff;
         }

@@ -5,7 +5,7 @@
 
 namespace velmoriax::platform {
 
-/// Where the desktop's panel is, in pixels of the screen.
+/// The rectangle of the desktop's panel in pixels of the screen, right and bottom not included, and its edge.
 struct TaskBarPosition {
     enum Edge { leftEdge = 0, topEdge = 1, rightEdge = 2, bottomEdge = 3 };
     int left = 0;
@@ -13,8 +13,10 @@ struct TaskBarPosition {
     int right = 0;
     int bottom = 0;
     Edge edge = bottomEdge;
+    bool operator==(const TaskBarPosition&) const = default;
 };
 
+/// The panel of the desktop, which the program calls the task bar.
 class TaskBar {
 public:
     virtual ~TaskBar() = default;

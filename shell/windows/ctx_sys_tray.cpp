@@ -37,6 +37,7 @@ CtxSysTray::CtxSysTray(WindowContext& context, QMenu& popup) : context_(context)
     TimerTooltip_.setObjectName(QStringLiteral("TimerTooltip"));
     TimerTooltip_.setInterval(TipWatch::tickMs);
     connect(&TimerTooltip_, &QTimer::timeout, this, &CtxSysTray::tickTooltip);
+    textTimer_.setObjectName(QStringLiteral("TimerTipText"));
     textTimer_.setInterval(textRefreshMs);
     textTimer_.setTimerType(Qt::VeryCoarseTimer);
     connect(&textTimer_, &QTimer::timeout, this, &CtxSysTray::refreshTipText);

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/xdg_autostart.h"
 #include "platform/program_paths.h"
 #include "support/disk_fixture.h"
 
@@ -94,11 +93,6 @@ TEST(ProgramPaths, OnlyWhatIsInsideIsTranslated) {
     for (const char* inRoot : {"/\\bio.dat", "/bio.dat"})
         EXPECT_EQ(platform::fileSystemPath(inRoot, "/"), "/bio.dat") << "a card lies in a root without a separator";
     EXPECT_TRUE(platform::takesSubdirectory("/abc") && !platform::takesSubdirectory("/ab"));
-}
-
-TEST(Autostart, QuotesByTheDesktopEntryRules) {
-    EXPECT_EQ(quotedExecArgument("/opt/my app/V"), "\"/opt/my app/V\"");
-    EXPECT_EQ(quotedExecArgument("/a$b\"c`d%e\\f"), "\"/a\\\\$b\\\\\"c\\\\`d%%e\\\\\\\\f\"");
 }
 
 TEST_F(DiskFilesTest, TheOptionsFileIsFoundUnderItsOtherSpellingAndStaysOne) {

@@ -9,134 +9,260 @@
 namespace velmoriax::shell {
 namespace {
 
-struct Line : TipLineSource {
+using desktop::TrayKind;
+
+/// A line of the tip that counts how often it was worked out.
+struct CountedLine : TipLineSource {
     int calls = 0;
-    std::string tipLine(base::DateValue) override { return "line " + std::to_string(++calls); }
+    std::function<void()> whileAsked = [] {};
+    std::string tipLine(base::DateValue) override {
+        whileAsked();
+        return "line " + std::to_string(++calls);
+    }
 };
 
-/// A tooltip window that is only looked for.
-struct PlainToolTip : SecondaryWindow {
-    explicit PlainToolTip(WindowContext& context) : SecondaryWindow(context) {}
+struct EmptyToolTip : SecondaryWindow {
+    explicit EmptyToolTip(WindowContext& context) : SecondaryWindow(context) {}
     void load() override {}
 };
 
-/// The icon of a module, in a tray that is there.
-struct TrayTest : test::WindowFixture {
-    TrayTest() {
+/// What one module does with the icon.
+struct TrayIcon : test::WindowFixture {
+    TrayIcon() {
         options.holders.tooltips = "ToolTips on";
         options.holders.estiloTooltips = "windows xp";
         alerts.birth = {1980, 3, 15};
         subsystems.tipLines = {&line};
-        windows.addSecondary("FrmToolTip", [this] { return std::make_unique<PlainToolTip>(context); });
+        windows.addSecondary("FrmToolTip", [this] { return std::make_unique<EmptyToolTip>(context); });
     }
-    /// The icon's rectangle, with the pointer on it or away from it.
-    void pointerOnIcon(bool on) {
-        tray.place = on ? QRect(QCursor::pos() - QPoint(4, 4), QSize(8, 8))
-                        : QRect(QCursor::pos() + QPoint(99, 99), QSize(8, 8));
+    QTimer& timer(const char* name) const { return *icon.findChild<QTimer*>(QString::fromLatin1(name)); }
+    /// Ticks of a timer; none when it is stopped.
+    void tick(const char* name, int ticks = 1) {
+        for (int i = 0; i < ticks && timer(name).isActive(); ++i) fire(icon, name);
     }
-    void rest(int ticks) {
-        Q_EMIT tray.pointerMoved();
-        for (int i = 0; i < ticks; ++i) fire(control, "TimerTooltip");
+    /// The pointer comes onto the icon and rests there for some tenths of a second.
+    void restOnIcon(int tenths) {
+        tray.place = QRect(QCursor::pos() - QPoint(4, 4), QSize(8, 8));
+        tray.movePointer();
+        tick("TimerTooltip", tenths);
     }
-    static void fire(CtxSysTray& control, const char* timer) {
-        for (QTimer* each : control.findChildren<QTimer*>(QString::fromLatin1(timer)))
-            QMetaObject::invokeMethod(each, "timeout");
+    void leaveIcon() {
+        tray.place.translate(100, 100);
+        tick("TimerTooltip");
     }
-    std::string balloon() const { return tray.balloons.isEmpty() ? std::string() : tray.balloons.last().toStdString(); }
+    /// The module adds the icon, in a tray of that kind.
+    void addTo(TrayKind kind) {
+        tray.arrive(kind);
+        icon.AddIconToSystray("");
+        QTest::qWait(0); // the text for a panel follows in the event loop
+    }
+    void switchTooltips(const char* value) {
+        options.holders.tooltips = value;
+        icon.tooltipsSwitched();
+        QTest::qWait(0);
+    }
+    std::string tip() const { return tray.tip.toStdString(); }
 
-    Line line;
+    CountedLine line;
     QMenu menu;
-    CtxSysTray control{context, menu};
+    CtxSysTray icon{context, menu};
 };
 
-TEST_F(TrayTest, ABalloonIsShownAfterHalfASecondAndRemovedWithThePointer) {
-    tray.arrive();
-    control.AddIconToSystray("");
-    pointerOnIcon(true);
-    rest(4);
+// ---- Tips over a tray window
+
+TEST_F(TrayIcon, ShowsItsBalloonAfterHalfASecondAndHidesItWithThePointer) {
+    addTo(TrayKind::window);
+    restOnIcon(4);
     EXPECT_FALSE(tray.balloonShown);
-    fire(control, "TimerTooltip");
+    tick("TimerTooltip");
     EXPECT_TRUE(tray.balloonShown);
-    EXPECT_EQ(balloon(), "11/15/2026 (The Sun)\r\nline 1");
-    EXPECT_EQ(tray.balloons.first().toStdString(), programName);
+    EXPECT_EQ(tray.balloons.value(0).toStdString(), programName);
+    EXPECT_EQ(tray.balloons.value(1), "11/15/2026 (The Sun)\r\nline 1");
     EXPECT_FALSE(tray.silent);
-    pointerOnIcon(false);
-    fire(control, "TimerTooltip");
+    leaveIcon();
     EXPECT_FALSE(tray.balloonShown || state.trayBusy || state.tipShown);
+    EXPECT_FALSE(timer("TimerTooltip").isActive()) << "nothing is left to watch";
 }
 
-TEST_F(TrayTest, TheOptionsChooseSilenceAndStyle) {
-    tray.arrive();
-    control.AddIconToSystray("");
-    pointerOnIcon(true);
+TEST_F(TrayIcon, ShowsTipsInTheStyleOfTheOptions) {
+    addTo(TrayKind::window);
     options.holders.modoSilencioso = "mudo";
-    rest(5);
+    restOnIcon(5);
     EXPECT_TRUE(tray.silent);
-    pointerOnIcon(false);
-    fire(control, "TimerTooltip");
+    leaveIcon();
     options.holders.estiloTooltips = "personal";
-    pointerOnIcon(true);
-    rest(5);
+    restOnIcon(5);
     EXPECT_TRUE(windows.loaded("FrmToolTip"));
     EXPECT_FALSE(tray.balloonShown);
-    Q_EMIT tray.leftClicked();
-    EXPECT_FALSE(windows.loaded("FrmToolTip")) << "it would cover what the click opens";
+    leaveIcon();
+    EXPECT_FALSE(windows.loaded("FrmToolTip"));
 }
 
-TEST_F(TrayTest, WithTipsOffTheIconHasTheProgramsNameAlone) {
-    tray.arrive();
-    options.holders.tooltips = "ToolTips off";
-    control.AddIconToSystray("");
-    pointerOnIcon(true);
-    rest(20);
-    EXPECT_EQ(tray.tip.toStdString(), programName);
+TEST_F(TrayIcon, ShowsNoTipOverADescriptionOfACardOrAModuleThatLoads) {
+    addTo(TrayKind::window);
+    for (bool* flag : {&state.cardDescriptionOpen, &state.viewLoading}) {
+        *flag = true;
+        restOnIcon(20);
+        EXPECT_TRUE(tray.balloons.isEmpty());
+        *flag = false;
+    }
+    options.holders.estiloTooltips = "personal";
+    restOnIcon(4);
+    state.viewLoading = true;
+    tick("TimerTooltip");
+    EXPECT_FALSE(windows.loaded("FrmToolTip")) << "the load began while the pointer rested";
+}
+
+TEST_F(TrayIcon, ReportsThePointerAndTheEdgeOfThePanel) {
+    addTo(TrayKind::window);
+    QPoint reported;
+    QObject::connect(&icon, &CtxSysTray::MouseMouse, [&](float x, float y) { reported = QPointF(x, y).toPoint(); });
+    QCursor::setPos(30, 40);
+    taskBar.where = {0, 0, 1280, 30, platform::TaskBarPosition::topEdge};
+    state.taskBarAtBottom = true;
+    icon.UpdateIcon("a name from before");
+    tray.movePointer();
+    EXPECT_EQ(reported, QPoint(30, 40));
+    EXPECT_FALSE(state.taskBarAtBottom);
+    EXPECT_EQ(tip(), "") << "the panel's own tip would cover the program's";
+    taskBar.where->edge = platform::TaskBarPosition::bottomEdge;
+    tray.movePointer();
+    EXPECT_TRUE(state.taskBarAtBottom);
+}
+
+TEST_F(TrayIcon, HasOnlyTheProgramsNameWhileTipsAreOff) {
+    addTo(TrayKind::window);
+    switchTooltips("ToolTips off");
+    EXPECT_EQ(tip(), programName);
+    restOnIcon(20);
+    EXPECT_EQ(tip(), programName);
     EXPECT_TRUE(tray.balloons.isEmpty());
-    options.holders.tooltips = "ToolTips on";
-    control.tooltipsSwitched();
-    EXPECT_EQ(tray.tip, "");
-    options.holders.tooltips = "ToolTips off";
-    control.tooltipsSwitched();
-    EXPECT_EQ(tray.tip.toStdString(), programName);
+    switchTooltips("ToolTips on");
+    EXPECT_EQ(tip(), "");
+    restOnIcon(5);
+    EXPECT_TRUE(tray.balloonShown);
 }
 
-TEST_F(TrayTest, WhereThePanelShowsTheTextItIsTheTip) {
-    control.AddIconToSystray("");
+// ---- Clicks
+
+TEST_F(TrayIcon, ReportsClicksWithTheirButton) {
+    addTo(TrayKind::window);
+    std::vector<std::pair<std::string, int>> events;
+    QObject::connect(&icon, &CtxSysTray::MouseUp, [&](int button) { events.emplace_back("up", button); });
+    QObject::connect(&icon, &CtxSysTray::DblClick, [&](int button) { events.emplace_back("double", button); });
+    tray.click();
+    tray.rightClick();
+    tray.doubleClick();
+    EXPECT_EQ(events, (decltype(events){{"up", 1}, {"up", 2}, {"double", 1}}));
+}
+
+TEST_F(TrayIcon, ShowsNoTipAfterAClickUntilThePointerHasLeft) {
+    addTo(TrayKind::window);
+    for (const int tenths : {3, 5}) { // before the tip and while it is open
+        restOnIcon(tenths);
+        tray.click();
+        EXPECT_FALSE(tray.balloonShown) << "it would cover what the click opens";
+        restOnIcon(20);
+        EXPECT_FALSE(tray.balloonShown);
+        leaveIcon();
+    }
+    restOnIcon(5);
+    EXPECT_TRUE(tray.balloonShown);
+}
+
+// ---- The text that a panel shows by itself
+
+TEST_F(TrayIcon, RenewsTheTextOfAPanelEachMinuteWhileTipsAreOn) {
+    addTo(TrayKind::item);
+    EXPECT_EQ(tip(), "11/15/2026 (The Sun)\nline 1");
+    EXPECT_EQ(timer("TimerTipText").interval(), 60'000);
+    tick("TimerTipText");
+    EXPECT_EQ(tip(), "11/15/2026 (The Sun)\nline 2");
+    state.viewLoading = true;
+    tick("TimerTipText");
+    EXPECT_EQ(line.calls, 2) << "a module loads";
+    state.viewLoading = false;
+    switchTooltips("ToolTips off");
+    tick("TimerTipText");
+    EXPECT_EQ(tip(), programName);
+    EXPECT_FALSE(timer("TimerTipText").isActive()) << "no minute wakes the program for nothing";
+    switchTooltips("ToolTips on");
+    EXPECT_EQ(tip(), "11/15/2026 (The Sun)\nline 3");
+    icon.RemoveIconFromSystray();
+    EXPECT_FALSE(timer("TimerTipText").isActive());
+}
+
+TEST_F(TrayIcon, HasNoTextForAPanelBeforeThereIsOneOrWhereItIsATrayWindow) {
+    icon.AddIconToSystray("");
     QTest::qWait(0);
-    EXPECT_EQ(tray.tip, "") << "no panel is there yet";
-    tray.arrive(false);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !tray.tip.isEmpty(); }));
-    EXPECT_EQ(tray.tip, "11/15/2026 (The Sun)\nline 1");
-    control.RemoveIconFromSystray();
-    EXPECT_FALSE(tray.shown);
+    EXPECT_EQ(line.calls, 0) << "the program still waits for a panel";
+    tray.arrive(TrayKind::window);
+    QTest::qWait(0);
+    EXPECT_EQ(line.calls, 0);
 }
 
-TEST_F(TrayTest, AnIconThatIsNotAddedAnswersNothing) {
+// ---- Adding and removing
+
+TEST_F(TrayIcon, CutsTextsToWhatATrayTakes) {
+    addTo(TrayKind::window);
+    const std::string text(300, 'x');
+    icon.UpdateIcon(text);
+    EXPECT_EQ(tray.tip.size(), 128);
+    icon.Popup(text, text, CtxSysTray::informationIcon);
+    EXPECT_FALSE(tray.silent);
+    icon.Popup(text, text, CtxSysTray::informationIcon | CtxSysTray::noSound);
+    EXPECT_TRUE(tray.silent);
+    EXPECT_EQ(tray.balloons.value(0).size(), 64);
+    EXPECT_EQ(tray.balloons.value(1).size(), 256);
+}
+
+TEST_F(TrayIcon, IsNotAddedWhileAWindowOfTheProfilesIsOpen) {
     tray.arrive();
     state.noTrayAdd = true;
-    control.AddIconToSystray("name");
-    EXPECT_FALSE(tray.shown) << "the profile list or the compatibility window is open";
+    icon.AddIconToSystray("name");
+    EXPECT_FALSE(tray.shown);
     int clicks = 0;
-    QObject::connect(&control, &CtxSysTray::MouseUp, [&] { ++clicks; });
-    Q_EMIT tray.leftClicked();
-    pointerOnIcon(true);
-    rest(20);
-    EXPECT_EQ(clicks, 0);
-    EXPECT_TRUE(tray.balloons.isEmpty());
+    QObject::connect(&icon, &CtxSysTray::MouseUp, [&] { ++clicks; });
+    tray.click();
+    EXPECT_EQ(clicks, 0) << "the icon of another module was clicked";
     state.noTrayAdd = false;
-    control.AddIconToSystray("name");
+    icon.AddIconToSystray("name");
     EXPECT_TRUE(tray.shown);
-    Q_EMIT tray.leftClicked();
-    Q_EMIT tray.rightClicked();
-    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(tip(), "name");
     EXPECT_EQ(tray.menu, &menu);
+    tray.click();
+    EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(TrayTest, NoTipOverADescriptionOfACard) {
-    tray.arrive();
-    control.AddIconToSystray("");
-    state.cardDescriptionOpen = true;
-    pointerOnIcon(true);
-    rest(20);
+TEST_F(TrayIcon, HidesItsTipWhenItIsRemoved) {
+    addTo(TrayKind::window);
+    restOnIcon(5);
+    icon.RemoveIconFromSystray();
+    EXPECT_FALSE(tray.shown || tray.balloonShown || state.tipShown);
+    EXPECT_FALSE(timer("TimerTooltip").isActive());
+}
+
+TEST_F(TrayIcon, KeepsTheIconOfTheNextModule) {
+    QMenu nextMenu;
+    CtxSysTray next(context, nextMenu);
+    addTo(TrayKind::window);
+    icon.RemoveIconFromSystray();
+    next.AddIconToSystray("");
+    icon.RemoveIconFromSystray();
+    EXPECT_EQ(tray.menu, &nextMenu) << "the module before is destroyed after the next one has added its icon";
+}
+
+TEST_F(TrayIcon, ShowsNothingWhenItIsRemovedWhileItsTextIsWorkedOut) {
+    line.whileAsked = [this] {
+        icon.RemoveIconFromSystray();
+        tray.tip = "of the next module";
+    };
+    addTo(TrayKind::item);
+    EXPECT_EQ(line.calls, 1);
+    EXPECT_EQ(tip(), "of the next module");
+    addTo(TrayKind::window);
+    restOnIcon(5);
+    EXPECT_EQ(line.calls, 2);
     EXPECT_TRUE(tray.balloons.isEmpty());
 }
 
@@ -150,45 +276,98 @@ protected:
     void ownLoad() override {}
 };
 
-const ModuleInfo module{"Module", "Module", true, {{}, {}, iconMenuOf({})}};
+constexpr std::array entries{commandEntry("MnuAbout", "About", Command::about)};
+const ModuleInfo module{"Module", "Module", true, {{}, {}, iconMenuOf(entries)}};
 
 struct ModuleInTray : test::WindowFixture {
     PlainModule& start(const char* minimised) {
         options.setOption(key::iniciarMinimizado, minimised);
-        return load<PlainModule>(module, module);
+        PlainModule& window = load<PlainModule>(module, module);
+        QTest::qWait(0); // whether a window that starts hidden can be reached is decided in the event loop
+        return window;
+    }
+    static bool isOnTaskBar(const QWidget& window) { return window.isVisible() && window.isMinimized(); }
+    std::size_t warnings() const {
+        QTest::qWait(0);
+        return boxes.shown.size();
     }
 };
 
-TEST_F(ModuleInTray, HiddenAtTheStartItComesBackByTheIcon) {
+TEST_F(ModuleInTray, ReturnsByAClickOrADoubleClickAndOpensItsMenuByTheRightButton) {
     tray.arrive();
     PlainModule& window = start("True");
-    QTest::qWait(0);
     EXPECT_FALSE(window.isVisible());
-    EXPECT_TRUE(tray.shown);
-    Q_EMIT tray.leftClicked();
+    tray.rightClick();
+    EXPECT_TRUE(tray.menu->isVisible());
+    EXPECT_FALSE(window.isVisible());
+    tray.menu->close();
+    tray.click();
     EXPECT_TRUE(window.isVisible());
     window.close();
     EXPECT_FALSE(window.isVisible());
     EXPECT_TRUE(tray.shown);
-}
-
-TEST_F(ModuleInTray, WithoutATrayAHiddenStartShowsTheWindow) {
-    PlainModule& window = start("True");
-    QTest::qWait(0);
-    EXPECT_FALSE(window.isVisible()) << "a panel may still come";
-    tray.stillWaiting = false;
-    Q_EMIT tray.waitEnded();
+    tray.doubleClick();
     EXPECT_TRUE(window.isVisible());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return boxes.shown.size() == 1; })) << "the user learns why";
 }
 
-TEST_F(ModuleInTray, ALostTrayBringsAHiddenWindowToTheTaskbar) {
+TEST_F(ModuleInTray, IsShownAfterAHiddenStartOnceNoTrayCanBringItBack) {
+    PlainModule& window = start("True");
+    EXPECT_FALSE(window.isVisible()) << "a panel may still start";
+    tray.endWait();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(warnings(), 1U);
+}
+
+TEST_F(ModuleInTray, IsShownAtOnceWhenItIsKnownThatThereIsNoTray) {
+    tray.endWait();
+    EXPECT_TRUE(start("True").isVisible());
+    EXPECT_EQ(warnings(), 1U);
+}
+
+TEST_F(ModuleInTray, StaysHiddenWhenAPanelStartsLate) {
+    PlainModule& window = start("True");
+    tray.arrive(TrayKind::item);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(warnings(), 0U);
+}
+
+TEST_F(ModuleInTray, IsOnTheTaskBarWhileTheTrayIsLost) {
     tray.arrive();
     PlainModule& window = start("False");
+    tray.lose();
+    EXPECT_FALSE(window.isMinimized()) << "it was not hidden";
+    EXPECT_EQ(warnings(), 0U);
+    tray.comeBack();
     window.close();
     EXPECT_FALSE(window.isVisible());
-    tray.loseForGood();
-    EXPECT_TRUE(window.isVisible() && window.isMinimized());
+    tray.lose();
+    EXPECT_TRUE(isOnTaskBar(window));
+    EXPECT_EQ(warnings(), 1U);
+    window.close();
+    EXPECT_TRUE(isOnTaskBar(window));
+    EXPECT_EQ(warnings(), 1U) << "the user is informed once";
+}
+
+TEST_F(ModuleInTray, IsMinimisedToWhereTheOptionsSayAndATrayAllows) {
+    tray.arrive();
+    PlainModule& window = start("False");
+    options.holders.minimizeTo = word::systray;
+    window.showMinimized();
+    QTest::qWait(0);
+    EXPECT_FALSE(window.isVisible());
+    tray.click();
+    EXPECT_FALSE(window.isMinimized());
+    options.holders.minimizeTo = "toolbar";
+    window.showMinimized();
+    QTest::qWait(0);
+    EXPECT_TRUE(isOnTaskBar(window));
+}
+
+TEST_F(ModuleInTray, IsOnTheTaskBarWithoutAWarningWhileAPanelMayStillStart) {
+    PlainModule& window = start("False");
+    window.close();
+    EXPECT_TRUE(isOnTaskBar(window));
+    EXPECT_EQ(warnings(), 0U);
 }
 
 } // namespace
