@@ -8,7 +8,7 @@
 namespace velmoriax::base {
 
 /// What the program does not survive: a missing picture or data file, a card number outside the tables, a malformed
-/// profile file, an arithmetic overflow. It is thrown where the fault is found and caught in one place, the fatal stop.
+/// profile file, an arithmetic overflow. It is thrown where the fault is found and ends in the fatal stop.
 class RunTimeError : public std::runtime_error {
 public:
     enum class Code {

@@ -125,24 +125,26 @@ bool DesktopTray::eventFilter(QObject* watched, QEvent* event) {
         Q_EMIT pointerMoved();
         return false;
     case QEvent::MouseButtonPress:
-        // The toolkit acts on the press already. An icon of ours acts when the button goes up, as a button does, and
-        // then for good: the handlers may take the icon away.
-        return true;
     case QEvent::MouseButtonDblClick:
-        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) Q_EMIT leftDoubleClicked();
+    case QEvent::MouseButtonRelease:
+        onButton(static_cast<QMouseEvent&>(*event));
         return true;
-    case QEvent::MouseButtonRelease: {
-        const auto button = static_cast<QMouseEvent*>(event)->button();
-        if (button == Qt::LeftButton) Q_EMIT leftClicked();
-        if (button == Qt::RightButton) Q_EMIT rightClicked();
-        return true;
-    }
     case QEvent::Hide:
         if (wanted_) grace_.start();
         return false;
     default:
         return false;
     }
+}
+
+/// The toolkit acts on the press already. An icon of ours acts when the button goes up, as a button does, and then as
+/// the last thing: the handlers may remove the icon.
+void DesktopTray::onButton(const QMouseEvent& event) {
+    const bool released = event.type() == QEvent::MouseButtonRelease;
+    const bool left = event.button() == Qt::LeftButton;
+    if (event.type() == QEvent::MouseButtonDblClick && left) Q_EMIT leftDoubleClicked();
+    if (released && left) Q_EMIT leftClicked();
+    if (released && event.button() == Qt::RightButton) Q_EMIT rightClicked();
 }
 
 void DesktopTray::onActivated(QSystemTrayIcon::ActivationReason reason) {

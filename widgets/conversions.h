@@ -8,8 +8,6 @@
 
 #include <string_view>
 
-class QDateEdit;
-
 /// Conversions between texts and dates of the layers below and those of the toolkit.
 namespace velmoriax::widgets {
 
@@ -24,8 +22,5 @@ inline QDate qtDate(base::CivilDate date) {
 inline base::CivilDate civilDate(QDate date) {
     return {date.year(), date.month(), date.day()};
 }
-
-/// Sets a picker up for any date that a file may hold, with months and weekdays in English.
-void openPicker(QDateEdit& picker);
 
 } // namespace velmoriax::widgets

@@ -7,13 +7,14 @@
 #include "shell/windows/window_registry.h"
 #include "ui_form_mod.h"
 #include "widgets/conversions.h"
+#include "widgets/date_picker.h"
 
 namespace velmoriax::biorhythm {
 
 FormMod::FormMod(shell::WindowContext& context) : SecondaryWindow(context), ui_(std::make_unique<Ui::FormMod>()) {
     ui_->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
-    widgets::openPicker(*ui_->DTPicker1);
+    widgets::setUpDatePicker(*ui_->DTPicker1);
     connect(ui_->CmdAcept, &QPushButton::clicked, this, &FormMod::submit);
     connect(ui_->TextName, &QLineEdit::returnPressed, this, &FormMod::submit);
     connect(ui_->CmdCancel, &QPushButton::clicked, this, &FormMod::close);

@@ -22,6 +22,7 @@
 #include "shell/windows/window_registry.h"
 #include "ui_frm_bio.h"
 #include "widgets/conversions.h"
+#include "widgets/date_picker.h"
 #include "widgets/look.h"
 
 /// The pictures are in a static library, whose resources are initialised by name and outside any namespace.
@@ -72,7 +73,7 @@ void frmBio::setUpControls() {
     ui_->CmdAlert->setIcon(QIcon(QStringLiteral(":/bio/alert.png")));
     for (QLabel* label : {ui_->LabelGetTime, ui_->LabelLived, ui_->LabelRest, ui_->LabelAvg})
         widgets::look::asQuiet(*label);
-    widgets::openPicker(*ui_->DTPicker1);
+    widgets::setUpDatePicker(*ui_->DTPicker1);
 }
 
 void frmBio::connectDateBoxes() {

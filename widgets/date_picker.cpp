@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "widgets/conversions.h"
+#include "widgets/date_picker.h"
 
 #include "widgets/calendar.h"
 
@@ -7,7 +7,7 @@
 
 namespace velmoriax::widgets {
 
-void openPicker(QDateEdit& picker) {
+void setUpDatePicker(QDateEdit& picker) {
     picker.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     setUpCalendar(*picker.calendarWidget());
     picker.setDateRange({100, 1, 1}, {9999, 12, 31});
