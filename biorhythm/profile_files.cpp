@@ -138,8 +138,10 @@ void saveBirthTime(platform::Files& files, BioState& state, base::CivilTime time
 void createMissingProfileFiles(platform::Files& files) {
     for (const auto& [file, content] : firstContents) {
         const std::string path = pathOf(files, file);
-        // A folder that cannot be written is the cause, and not the file that is missing for it.
-        if (files.read(path).status == Status::missing) write(files, file, std::string(content));
+        const bool missing = files.read(path).status == Status::missing;
+        if (missing && !files.replace(path, std::string(content)))
+            fail(Code::pathFileAccess, std::string(file) + " cannot be made: the folder " +
+                                           files.applicationDirectory() + " cannot be written.");
     }
 }
 
