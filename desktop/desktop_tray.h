@@ -45,6 +45,7 @@ private:
     void followItemPanels();
     void apply();
     void watchTrayWindow();
+    void onMouseButton(const QMouseEvent& event);
     void onActivated(QSystemTrayIcon::ActivationReason reason);
 
     QIcon picture_;
