@@ -45,7 +45,7 @@ private:
     void followItemPanels();
     void apply();
     void watchTrayWindow();
-    void onButton(const QMouseEvent& event);
+    void onMouseButton(const QMouseEvent& event);
     void onActivated(QSystemTrayIcon::ActivationReason reason);
 
     QIcon picture_;
