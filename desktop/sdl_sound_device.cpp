@@ -23,8 +23,8 @@ constexpr int bufferSamples = 2048;
 constexpr int waveChannel = 0;
 constexpr auto silenceBeforeClosing = 1s;
 
-/// A song whose tracks are damaged ends after a buffer or two. Taken for one that has ended it would be started again
-/// for ever.
+/// A song whose tracks are damaged ends after a buffer or two. If it counted as played it would be started again for
+/// ever.
 constexpr auto shortestSong = 400ms;
 
 bool isMidi(const std::string& bytes) {
@@ -32,7 +32,7 @@ bool isMidi(const std::string& bytes) {
 }
 
 /// Folders of General MIDI sound fonts on the distributions, and the names to prefer in them: the first one is small
-/// and so is loaded in a blink.
+/// and so is loaded at once.
 constexpr std::array fontFolders{"/usr/share/sounds/sf2", "/usr/share/soundfonts", "/usr/share/sounds/sf3"};
 constexpr std::array fontNames{"TimGM6mb.sf2", "default-GM.sf2", "default.sf2"};
 
@@ -73,7 +73,7 @@ SDL_RWops* memoryFile(const std::string& bytes) {
     return SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
 }
 
-/// The device through SDL's mixer.
+/// The device of SDL's mixer library.
 class SdlSoundDevice : public SoundDevice {
 public:
     SdlSoundDevice();

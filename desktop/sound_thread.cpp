@@ -20,7 +20,7 @@ SoundThread::~SoundThread() {
     if (thread_.joinable()) thread_.join();
 }
 
-void SoundThread::give(Job job) {
+void SoundThread::post(Job job) {
     {
         const std::scoped_lock lock(guard_);
         jobs_.push_back(std::move(job));

@@ -11,9 +11,9 @@
 
 namespace velmoriax::desktop {
 
-/// The thread that owns the sound device. Jobs run on it one after another in the order in which they were given, and
-/// that is why the program's order of steps holds though none of them waits: a song is played after it was opened and
-/// closed before the next one is. The thread begins with the first job and sleeps without waking while all is silent.
+/// The thread that owns the sound device. Jobs run on it one after another in the order in which they were posted, so
+/// that a song is opened before it is played and closed before the next one is opened, although no caller waits. The
+/// thread starts with the first job and sleeps without waking while nothing sounds.
 class SoundThread {
 public:
     using Job = std::function<void(SoundDevice&)>;
@@ -26,7 +26,7 @@ public:
     /// Waits for the job under way, drops those that wait and closes the device.
     ~SoundThread();
 
-    void give(Job job);
+    void post(Job job);
 
 private:
     void run();

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/application.h"
-#include "desktop/clock_random.h"
+#include "desktop/audio_player.h"
+#include "desktop/clock_seeded_random.h"
 #include "desktop/desktop_tray.h"
 #include "desktop/document_opener.h"
 #include "desktop/exit_signals.h"
 #include "desktop/fatal_box.h"
 #include "desktop/message_boxes.h"
-#include "desktop/mixer.h"
 #include "desktop/panel_position.h"
 #include "desktop/pending_events.h"
 #include "desktop/single_instance.h"
@@ -83,14 +83,14 @@ int main(int argc, char** argv) {
     desktop::SystemClock clock;
     desktop::SystemTimeZone zone;
     const std::string pluginFolder = QApplication::applicationDirPath().toStdString() + "/plugins";
-    desktop::Mixer mixer(files, pluginFolder);
+    desktop::AudioPlayer audio(files, pluginFolder);
     desktop::QtDocumentOpener opener(files);
     desktop::XdgAutostart autostart(QApplication::applicationFilePath().toStdString());
     desktop::QtPendingEvents events;
-    desktop::ClockRandom random;
+    desktop::ClockSeededRandom random;
     desktop::DesktopTray tray(icon);
     const desktop::PanelPosition panel(tray);
-    shell::DesktopServices services{clock,     zone,   files,  mixer, mixer, opener,      boxes,
+    shell::DesktopServices services{clock,     zone,   files,  audio, audio, opener,      boxes,
                                     autostart, events, random, tray,  panel, pluginFolder};
 
     program::Modules modules(services);

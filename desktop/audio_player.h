@@ -10,12 +10,13 @@
 
 namespace velmoriax::desktop {
 
-/// The wave sounds and the song, through one device. Nothing here waits for the sound: each call is noted and carried
-/// out by the sound thread, in order. Without a device, a sound font or a file everything stays silent and quick.
-class Mixer : public platform::Sounds, public platform::SongPlayer {
+/// The wave sounds and the song, through one device. Nothing here waits for the sound: each call becomes a job of the
+/// sound thread, which runs them in order. Without a device, a sound font or a file all calls return as quickly and
+/// nothing is heard.
+class AudioPlayer : public platform::Sounds, public platform::SongPlayer {
 public:
     /// `pluginFolder` holds the sound library.
-    Mixer(const DiskFiles& files, std::string pluginFolder);
+    AudioPlayer(const DiskFiles& files, std::string pluginFolder);
 
     void playWav(const std::string& name) override;
 
@@ -29,13 +30,13 @@ public:
 
 private:
     int newDevice();
-    /// Changes the mode of the open device; false when it is another one, or its song cannot be played.
+    /// Changes the mode of the open device; false when another one is open, or its song cannot be played.
     bool change(int device, Mode mode);
     void halt(int device);
 
     const DiskFiles& files_;
     mutable std::mutex guard_; ///< over the three below, which the sound thread touches too
-    int lastDevice_ = 0;       ///< numbers are given out once: a closed device's number stays closed
+    int lastDevice_ = 0;       ///< no number is used twice: a closed device stays closed
     int openDevice_ = 0;
     Mode mode_ = Mode::none;
     SoundThread thread_; ///< the last member, so that it ends before what it uses

@@ -7,8 +7,8 @@
 
 namespace velmoriax::desktop {
 
-/// Random numbers from a seed that the clock sets.
-class ClockRandom : public platform::RandomSource {
+/// Random numbers whose seed is taken from the clock.
+class ClockSeededRandom : public platform::RandomSource {
 public:
     void seedFromClock() override;
     float uniform() override;

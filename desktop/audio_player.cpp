@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/mixer.h"
+#include "desktop/audio_player.h"
 
 #include <chrono>
 #include <future>
@@ -12,8 +12,9 @@ namespace {
 constexpr std::uintmax_t largestSong = 4U << 20U;
 constexpr std::uintmax_t largestWave = 64U << 20U;
 
-/// How long the opening waits to hear that a file is no song: long for a disk that is awake, nothing for the eye.
-constexpr std::chrono::milliseconds patience{10};
+/// How long opening a song waits for the answer that the file is none: enough for a disk that is spinning, too short to
+/// be noticed.
+constexpr std::chrono::milliseconds longestWait{10};
 
 /// The bytes of a file; none when it is missing, unreadable or too large to be a sound.
 std::string soundBytes(const DiskFiles& files, const std::string& path, std::uintmax_t largest) {
@@ -24,80 +25,80 @@ std::string soundBytes(const DiskFiles& files, const std::string& path, std::uin
 
 } // namespace
 
-Mixer::Mixer(const DiskFiles& files, std::string pluginFolder) :
+AudioPlayer::AudioPlayer(const DiskFiles& files, std::string pluginFolder) :
     files_(files), thread_(std::move(pluginFolder), [this](SoundDevice& device) {
         if (const auto end = device.songEnd()) change(end->number, end->playable ? Mode::stopped : Mode::none);
     }) {}
 
-void Mixer::playWav(const std::string& name) {
-    thread_.give([this, path = files_.applicationDirectory() + "\\" + name](SoundDevice& device) {
+void AudioPlayer::playWav(const std::string& name) {
+    thread_.post([this, path = files_.applicationDirectory() + "\\" + name](SoundDevice& device) {
         device.playWave(soundBytes(files_, path, largestWave));
     });
 }
 
-int Mixer::newDevice() {
+int AudioPlayer::newDevice() {
     const std::scoped_lock lock(guard_);
     mode_ = Mode::stopped;
     return openDevice_ = ++lastDevice_;
 }
 
-bool Mixer::change(int device, Mode mode) {
+bool AudioPlayer::change(int device, Mode mode) {
     const std::scoped_lock lock(guard_);
     if (device != openDevice_ || mode_ == Mode::none) return false;
     mode_ = mode;
     return true;
 }
 
-int Mixer::open(const std::string& path) {
+int AudioPlayer::open(const std::string& path) {
     const int number = newDevice();
     const auto isSong = std::make_shared<std::promise<bool>>();
     auto answer = isSong->get_future();
-    thread_.give([this, number, path, isSong](SoundDevice& device) {
+    thread_.post([this, number, path, isSong](SoundDevice& device) {
         const bool taken = device.takeSong(number, soundBytes(files_, path, largestSong));
         if (!taken) change(number, Mode::none);
         isSong->set_value(taken);
     });
-    const bool known = answer.wait_for(patience) == std::future_status::ready;
+    const bool known = answer.wait_for(longestWait) == std::future_status::ready;
     return known && !answer.get() ? 0 : number;
 }
 
-void Mixer::play(int device) {
+void AudioPlayer::play(int device) {
     if (!change(device, Mode::playing)) return;
-    thread_.give([this, device](SoundDevice& sound) {
+    thread_.post([this, device](SoundDevice& sound) {
         const bool stillWanted = mode(device) == Mode::playing;
         if (stillWanted && !sound.startSong()) change(device, Mode::none);
     });
 }
 
-platform::SongPlayer::Mode Mixer::mode(int device) const {
+platform::SongPlayer::Mode AudioPlayer::mode(int device) const {
     const std::scoped_lock lock(guard_);
     return device == openDevice_ ? mode_ : Mode::none;
 }
 
-void Mixer::halt(int device) {
-    // A song that is halted begins anew at the next start, so that stopping it rewinds it as well.
-    if (change(device, Mode::stopped)) thread_.give([](SoundDevice& sound) { sound.stopSong(); });
+void AudioPlayer::halt(int device) {
+    // A song that was halted starts from its beginning, so that stopping it rewinds it as well.
+    if (change(device, Mode::stopped)) thread_.post([](SoundDevice& sound) { sound.stopSong(); });
 }
 
-void Mixer::rewind(int device) {
+void AudioPlayer::rewind(int device) {
     halt(device);
 }
 
-void Mixer::stop(int device) {
+void AudioPlayer::stop(int device) {
     halt(device);
 }
 
-void Mixer::close(int device) {
+void AudioPlayer::close(int device) {
     {
         const std::scoped_lock lock(guard_);
         if (device == 0 || device != openDevice_) return;
         openDevice_ = 0;
         mode_ = Mode::none;
     }
-    thread_.give([](SoundDevice& sound) { sound.dropSong(); });
+    thread_.post([](SoundDevice& sound) { sound.dropSong(); });
 }
 
-void Mixer::closeAll() {
+void AudioPlayer::closeAll() {
     close(openDevice_);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/mixer.h"
+#include "desktop/audio_player.h"
 #include "support/disk_fixture.h"
 
 #include <algorithm>
@@ -14,13 +14,13 @@ namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
 using Mode = platform::SongPlayer::Mode;
 
-/// A song of one note that is held for half a second: a tempo of 120, so 96 ticks a beat make 192 ticks a second.
+/// A song of one note that is held for half a second: 96 ticks at a tempo of 120, which has 192 a second.
 std::string shortSong() {
     const std::string track("\x00\xC0\x13\x00\x90\x3C\x70\x60\x80\x3C\x00\x00\xFF\x2F\x00", 15);
     return std::string("MThd\0\0\0\x06\0\0\0\x01\0\x60MTrk\0\0\0\x0F", 22) + track;
 }
 
-/// The mixer on a sound device that writes its samples into a file, so that a test can hear.
+/// The player on a sound device that writes its samples into a file, so that a test can examine them.
 struct SoundOnDisk : test::DiskFixture {
     fs::path samples = root_ / "samples";
     test::Variable driver{"SDL_AUDIODRIVER", "disk"};
@@ -38,7 +38,8 @@ struct SoundOnDisk : test::DiskFixture {
         const auto size = fs::file_size(samples, error);
         return error ? 0 : size;
     }
-    /// The loudest 16-bit sample behind a place. What the synthesizer gives without a note is not quite 0: it dithers.
+    /// The loudest 16-bit sample after a position. Without a note the synthesizer's samples are not quite 0: it
+    /// dithers.
     int loudness(std::uintmax_t start) const {
         std::ifstream file(samples, std::ios::binary);
         file.seekg(static_cast<std::streamoff>(start));
@@ -47,24 +48,25 @@ struct SoundOnDisk : test::DiskFixture {
             loudest = std::max(loudest, std::abs(static_cast<int>(sample)));
         return loudest;
     }
-    bool soundsBehind(std::uintmax_t start) const { return loudness(start) > 32; }
-    static bool comesTrue(const std::function<bool()>& condition) {
+    bool soundsAfter(std::uintmax_t start) const { return loudness(start) > 32; }
+    static bool becomesTrue(const std::function<bool()>& condition) {
         for (const auto end = Clock::now() + 20s; Clock::now() < end; std::this_thread::sleep_for(20ms))
             if (condition()) return true;
         return false;
     }
     /// Whether something is heard from this moment on.
     bool isHeard() const {
-        return comesTrue([this, start = length()] { return soundsBehind(start); });
+        return becomesTrue([this, start = length()] { return soundsAfter(start); });
     }
-    /// The song's device, playing. Of three times the quickest counts, since the machine may be busy with other things.
-    static int openQuickly(Mixer& mixer, const std::string& path) {
+    /// The song's device, playing. The quickest of three attempts counts, since the machine may be busy with other
+    /// things.
+    static int openQuickly(AudioPlayer& player, const std::string& path) {
         int device = 0;
         auto quickest = Clock::duration::max();
         for (int i = 0; i < 3; ++i) {
             const auto start = Clock::now();
-            device = mixer.open(path);
-            mixer.play(device);
+            device = player.open(path);
+            player.play(device);
             quickest = std::min(quickest, Clock::now() - start);
         }
         EXPECT_LT(quickest, 50ms) << path;
@@ -72,15 +74,15 @@ struct SoundOnDisk : test::DiskFixture {
     }
     /// Whether it falls silent, and stays so.
     bool fallsSilent() const {
-        return comesTrue([this] {
+        return becomesTrue([this] {
             const auto start = length();
             std::this_thread::sleep_for(300ms);
-            return !soundsBehind(start);
+            return !soundsAfter(start);
         });
     }
-    /// Whether the device closes: the file grows no more.
-    bool comesToRest() const {
-        return comesTrue([this] {
+    /// Whether the device closes: the file does not grow any more.
+    bool closesTheDevice() const {
+        return becomesTrue([this] {
             const auto before = length();
             std::this_thread::sleep_for(300ms);
             return length() == before;
@@ -89,38 +91,38 @@ struct SoundOnDisk : test::DiskFixture {
 };
 
 TEST_F(SoundOnDisk, PlaysEachWaveSoundOnce) {
-    Mixer mixer(supplied, VELMORIAX_PLUGIN_DIR);
+    AudioPlayer player(supplied, VELMORIAX_PLUGIN_DIR);
     for (const char* name : {"boop.wav", "Trumpet.wav", "Url.wav"}) {
         fs::remove(samples);
-        mixer.playWav(name);
+        player.playWav(name);
         EXPECT_TRUE(isHeard()) << name;
-        EXPECT_TRUE(comesToRest()) << name;
+        EXPECT_TRUE(closesTheDevice()) << name;
     }
 }
 
 TEST_F(SoundOnDisk, PlaysTheSuppliedSongUntilItIsSwitchedOff) {
-    Mixer mixer(supplied, VELMORIAX_PLUGIN_DIR);
-    const int device = mixer.open(suppliedSong);
+    AudioPlayer player(supplied, VELMORIAX_PLUGIN_DIR);
+    const int device = player.open(suppliedSong);
     ASSERT_NE(device, 0);
-    mixer.play(device);
-    EXPECT_EQ(mixer.mode(device), Mode::playing);
+    player.play(device);
+    EXPECT_EQ(player.mode(device), Mode::playing);
     EXPECT_TRUE(isHeard());
-    mixer.playWav("boop.wav");
+    player.playWav("boop.wav");
     EXPECT_TRUE(isHeard());
-    mixer.closeAll();
-    EXPECT_EQ(mixer.mode(device), Mode::none);
+    player.closeAll();
+    EXPECT_EQ(player.mode(device), Mode::none);
     EXPECT_TRUE(fallsSilent());
 }
 
-TEST_F(SoundOnDisk, GoesRoundWhenTheSongHasEnded) {
-    Mixer mixer(files_, VELMORIAX_PLUGIN_DIR);
-    const int device = mixer.open(song("short.mid", shortSong()));
-    for (int round = 0; round < 2; ++round) {
-        mixer.rewind(device);
-        mixer.play(device);
-        EXPECT_EQ(mixer.mode(device), Mode::playing);
+TEST_F(SoundOnDisk, PlaysASongAgainAfterItsEnd) {
+    AudioPlayer player(files_, VELMORIAX_PLUGIN_DIR);
+    const int device = player.open(song("short.mid", shortSong()));
+    for (int turn = 0; turn < 2; ++turn) {
+        player.rewind(device);
+        player.play(device);
+        EXPECT_EQ(player.mode(device), Mode::playing);
         ASSERT_TRUE(isHeard());
-        ASSERT_TRUE(comesTrue([&] { return mixer.mode(device) == Mode::stopped; }));
+        ASSERT_TRUE(becomesTrue([&] { return player.mode(device) == Mode::stopped; }));
         ASSERT_TRUE(fallsSilent());
     }
 }
@@ -137,16 +139,16 @@ TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutASong) {
         {song("damaged.mid", header + std::string(15, '\xFF')), "a track of rubbish"},
         {song("huge.mid", shortSong() + std::string(5U << 20U, '\0')), "larger than any song"},
     };
-    Mixer mixer(files_, VELMORIAX_PLUGIN_DIR);
+    AudioPlayer player(files_, VELMORIAX_PLUGIN_DIR);
     for (const auto& [path, why] : rows) {
-        const int device = openQuickly(mixer, path);
-        EXPECT_TRUE(comesTrue([&] { return mixer.mode(device) == Mode::none; })) << why;
-        EXPECT_FALSE(soundsBehind(0)) << why;
-        mixer.close(device);
+        const int device = openQuickly(player, path);
+        EXPECT_TRUE(becomesTrue([&] { return player.mode(device) == Mode::none; })) << why;
+        EXPECT_FALSE(soundsAfter(0)) << why;
+        player.close(device);
     }
-    for (const char* name : {"missing.wav", "text.mid"}) mixer.playWav(name);
+    for (const char* name : {"missing.wav", "text.mid"}) player.playWav(name);
     EXPECT_TRUE(fallsSilent());
-    EXPECT_FALSE(soundsBehind(0));
+    EXPECT_FALSE(soundsAfter(0));
 }
 
 TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutADeviceOrASoundFont) {
@@ -154,24 +156,24 @@ TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutADeviceOrASoundFont) {
     for (const auto& [name, value] : test::Table<const char*, const char*>{
              {"SDL_AUDIODRIVER", "nosuchdriver"}, {"SDL_SOUNDFONTS", "/nonexistent/font.sf2"}}) {
         const test::Variable variable(name, value);
-        Mixer mixer(files_, VELMORIAX_PLUGIN_DIR);
-        const int device = openQuickly(mixer, path);
-        EXPECT_TRUE(comesTrue([&] { return mixer.mode(device) == Mode::none; })) << name;
+        AudioPlayer player(files_, VELMORIAX_PLUGIN_DIR);
+        const int device = openQuickly(player, path);
+        EXPECT_TRUE(becomesTrue([&] { return player.mode(device) == Mode::none; })) << name;
     }
 }
 
 TEST_F(SoundOnDisk, EndsCleanlyWhileASongIsLoaded) {
     for (const auto pause : {0ms, 5ms, 40ms, 120ms}) {
-        Mixer mixer(supplied, VELMORIAX_PLUGIN_DIR);
-        const int device = mixer.open(suppliedSong);
-        mixer.play(device);
-        mixer.stop(device);
-        mixer.play(device);
+        AudioPlayer player(supplied, VELMORIAX_PLUGIN_DIR);
+        const int device = player.open(suppliedSong);
+        player.play(device);
+        player.stop(device);
+        player.play(device);
         std::this_thread::sleep_for(pause);
     }
     const auto written = length();
     std::this_thread::sleep_for(200ms);
-    EXPECT_EQ(length(), written) << "nothing plays on behind the mixer's back";
+    EXPECT_EQ(length(), written) << "nothing is played after the end";
 }
 
 } // namespace
