@@ -9,7 +9,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (const base::RunTimeError& error) {
-        // While the fatal box is open, timers go on: what they run into no longer counts.
+        // Timers still run while the fatal box is open: their errors no longer matter.
         if (!std::exchange(stopping_, true)) fatalStop_.stop(error);
         return false;
     }

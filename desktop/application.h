@@ -7,8 +7,8 @@
 
 namespace velmoriax::desktop {
 
-/// The application object. What the program does not survive ends here when an event leads to it; the start, which is
-/// no event, is caught by `main`.
+/// The application object. It catches the errors that end the program when they are thrown while an event is handled;
+/// `main` catches those of the start, which is no event.
 class Application : public QApplication {
 public:
     Application(int& argc, char** argv, platform::FatalStop& stop) : QApplication(argc, argv), fatalStop_(stop) {}

@@ -16,14 +16,14 @@ namespace {
 const QString service = QStringLiteral("org.freedesktop.Notifications");
 const QString path = QStringLiteral("/org/freedesktop/Notifications");
 constexpr int answerWithinMs = 1000;
-constexpr int standsMs = 30000; ///< as long as the program's own window does
+constexpr int openMs = 30000; ///< as long as the program's own window is open
 constexpr uchar normalUrgency = 1;
 
 QDBusMessage callTo(const QString& method) {
     return QDBusMessage::createMethodCall(service, path, service, method);
 }
 
-/// The body is read as markup, in which these three characters speak.
+/// The body is read as markup.
 QString escaped(const QString& text) {
     return text.toHtmlEscaped().remove(u'\r');
 }
@@ -49,7 +49,7 @@ bool DesktopNotification::show(const QString& title, const QString& text) {
                               QStringLiteral("Open Velmoriax")};
     QDBusMessage call = callTo(QStringLiteral("Notify"));
     call << QGuiApplication::applicationDisplayName() << id_ << QStringLiteral("velmoriax") << title << escaped(text)
-         << actions << hints << standsMs;
+         << actions << hints << openMs;
     const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, answerWithinMs);
     const bool shown = answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty();
     id_ = shown ? answer.arguments().constFirst().toUInt() : 0;

@@ -15,7 +15,7 @@ class DesktopNotification : public QObject {
 public:
     explicit DesktopNotification(QObject* parent = nullptr);
 
-    /// Shows a text; false when the desktop has nobody who shows notifications.
+    /// Shows a text; false when no service of the desktop shows notifications.
     bool show(const QString& title, const QString& text);
 
     void close();

@@ -12,11 +12,11 @@ namespace velmoriax::desktop {
 
 namespace {
 
-constexpr int firstLookMs = 60;          ///< the first window comes before the icon
-constexpr int lookIntervalMs = 500;      ///< a panel comes within ten seconds of a login, or late
-constexpr int lateLookIntervalMs = 5000; ///< for the panel that comes late
-constexpr int graceMs = 6000;            ///< what a panel may take to start again
-constexpr int balloonMs = 60000;         ///< the pointer takes the balloon away long before
+constexpr int firstLookMs = 60;          ///< the first window is shown before the icon
+constexpr int lookIntervalMs = 500;      ///< most panels start within ten seconds of a login
+constexpr int lateLookIntervalMs = 5000; ///< for a panel that starts later
+constexpr int graceMs = 6000;            ///< how long a panel may take to start again
+constexpr int balloonMs = 60000;         ///< the pointer closes the balloon long before
 
 } // namespace
 
@@ -58,7 +58,7 @@ void DesktopTray::showBalloon(const QString& title, const QString& text, bool si
 }
 
 void DesktopTray::hideBalloon() {
-    // An empty balloon removes the one on show; as an item's notification it would be shown itself.
+    // An empty balloon closes the one that is open; as an item's notification it would be shown.
     if (reportsPointer()) icon_->showMessage({}, {}, QSystemTrayIcon::NoIcon, 0);
 }
 
@@ -101,7 +101,7 @@ void DesktopTray::followItemPanels() {
 void DesktopTray::apply() {
     icon_->setToolTip(tip_);
     icon_->setContextMenu(menu_);
-    // The window that shows the icon dies with each hiding, which is no loss of the tray.
+    // The window that shows the icon is destroyed whenever the icon is hidden, which is no loss of the tray.
     if (!wanted_ && trayWindow_) trayWindow_->removeEventFilter(this);
     icon_->setVisible(wanted_);
     if (wanted_ && kind_ == TrayKind::window) watchTrayWindow();
@@ -148,7 +148,7 @@ void DesktopTray::onButton(const QMouseEvent& event) {
 }
 
 void DesktopTray::onActivated(QSystemTrayIcon::ActivationReason reason) {
-    // Only the item comes here: the mouse events of the window end in the filter.
+    // Only clicks on an item arrive here: the event filter keeps the mouse events of a tray window.
     switch (reason) {
     case QSystemTrayIcon::Trigger:
     case QSystemTrayIcon::MiddleClick: // some panels open the menu on the left button and send this for the item itself

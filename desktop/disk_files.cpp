@@ -2,7 +2,6 @@
 #include "desktop/disk_files.h"
 
 #include "desktop/xdg_folders.h"
-
 #include "platform/program_paths.h"
 
 #include <cerrno>
@@ -24,7 +23,7 @@ constexpr ::mode_t ownerOnly = 0600;
 
 /// The name of a file while it is being written, beside the one that it will replace.
 constexpr std::string_view freshPrefix = ".velmoriax-";
-constexpr std::string_view freshMark = "XXXXXX"; ///< the system puts letters and digits in its place
+constexpr std::string_view freshMark = "XXXXXX"; ///< the system replaces it by letters and digits
 constexpr auto oldEnoughToSweep = std::chrono::minutes(1);
 
 /// An open file descriptor, closed at the end of its scope.
@@ -107,7 +106,7 @@ bool replaceFile(const fs::path& path, std::string_view bytes) {
     return true;
 }
 
-/// What a process leaves that is killed while it writes.
+/// Whether a process left this file when it was killed while writing.
 bool isLeftover(const fs::directory_entry& entry) {
     std::error_code error;
     const std::string name = entry.path().filename().string();
@@ -117,7 +116,7 @@ bool isLeftover(const fs::directory_entry& entry) {
     return !error && fs::file_time_type::clock::now() - written > oldEnoughToSweep;
 }
 
-/// Another instance may be writing at this moment, so only what is older goes.
+/// Deletes only older files, since another instance may be writing at this moment.
 void sweepLeftovers(const fs::path& folder) {
     std::error_code error;
     std::vector<fs::path> leftovers;
@@ -128,7 +127,7 @@ void sweepLeftovers(const fs::path& folder) {
 
 platform::Files::Content readFile(const fs::path& path) {
     using Status = platform::Files::Status;
-    // Opened without waiting, so that a pipe under the file's name cannot hold the program up.
+    // Opened without waiting, so that a pipe of that name cannot block the program.
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file) return {errno == ENOENT || errno == ENOTDIR ? Status::missing : Status::unreadable, {}};
     struct ::stat status {};
@@ -200,7 +199,7 @@ bool DiskFiles::append(const std::string& path, const std::string& bytes) {
     struct ::stat before {};
     if (!file || ::fstat(file.number(), &before) != 0) return false;
     if (writeAll(file.number(), bytes)) return true;
-    // A full disk takes a part: without it the file is what it was.
+    // A full disk may have taken a part of the bytes: the file gets its old length back.
     [[maybe_unused]] const int cut = ::ftruncate(file.number(), before.st_size);
     return false;
 }

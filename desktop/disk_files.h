@@ -7,9 +7,9 @@
 
 namespace velmoriax::desktop {
 
-/// Where the program's files lie.
+/// The folders with the program's files.
 struct ProgramFolders {
-    std::filesystem::path user; ///< the application directory: options, profiles, logs, and what the user puts there
+    std::filesystem::path user;     ///< the application directory: options, profiles, logs, and what the user adds
     std::filesystem::path supplied; ///< the supplied data; the same folder when the program is portable
 };
 
@@ -24,8 +24,8 @@ public:
 
     const ProgramFolders& folders() const { return folders_; }
 
-    /// Creates the application directory (for the user alone) and the folder of the logs, and sweeps both of the
-    /// half-written files, at least a minute old, that a killed or crashed process has left beside the real ones.
+    /// Creates the application directory (for the user alone) and the folder of the logs, and deletes the
+    /// half-written files, at least a minute old, that a killed or crashed process has left in both.
     void createFolders();
 
     /// The path under which a program path is read: the user's file, or the supplied one when the user has none.

@@ -8,7 +8,7 @@
 
 namespace velmoriax::desktop {
 
-/// SIGTERM, SIGINT and SIGHUP, brought into the event loop. Each one is reported, the second and later ones too.
+/// SIGTERM, SIGINT and SIGHUP, reported from the event loop, each time that one arrives.
 class ExitSignals {
 public:
     explicit ExitSignals(std::function<void()> onSignal);

@@ -7,10 +7,10 @@
 
 namespace velmoriax::desktop {
 
-/// A critical box in the platform's words, then exit status 1. A request to end the program closes the box.
+/// Shows the error's message in a critical box, then exits with status 1. A request to end the program closes the box.
 class FatalBox : public platform::FatalStop {
 public:
-    /// Removes the tray icon, after the box.
+    /// Removes the tray icon; called after the box.
     std::function<void()> removeIcon;
 
     [[noreturn]] void stop(const base::RunTimeError& error) override;

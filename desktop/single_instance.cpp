@@ -22,7 +22,7 @@ bool ownerLives(const QLockFile& lock) {
 
 SingleInstance::SingleInstance(const std::string& directory) :
     lock_(std::make_unique<QLockFile>(QString::fromStdString(directory) + QStringLiteral("/.velmoriax.lock"))) {
-    // The lock's owner is asked for by its process number: only a dead one's lock is broken, never an old one's.
+    // Only the lock of a process that no longer exists is broken, however old the lock is.
     lock_->setStaleLockTime(0);
     if (!lock_->tryLock(0)) first_ = lock_->error() != QLockFile::LockFailedError || !ownerLives(*lock_);
 }

@@ -8,13 +8,14 @@ class QLockFile;
 
 namespace velmoriax::desktop {
 
-/// One running program an application directory, by a lock file that a dead process's lock does not block.
+/// Allows one running program for each application directory, by a lock file. The lock of a process that no longer
+/// exists does not count.
 class SingleInstance {
 public:
     explicit SingleInstance(const std::string& directory);
     ~SingleInstance();
 
-    /// False when another instance runs. A directory that cannot be written to holds no lock, and the program runs.
+    /// False when another instance holds the lock. True where there is no lock and none can be created.
     bool isFirst() const { return first_; }
 
 private:

@@ -9,7 +9,8 @@ namespace velmoriax::desktop {
 
 namespace {
 
-/// The zone's offset without daylight saving, looked for in the months around an instant that has it.
+/// The zone's offset from universal time in seconds without daylight saving time: that of the nearest month before or
+/// after an instant that has none; `fallback` when there is no such month within a year.
 long standardOffset(std::time_t instant, long fallback) {
     constexpr std::time_t month = 30L * 86400;
     for (int distance = 1; distance <= 12; ++distance)

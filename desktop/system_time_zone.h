@@ -5,7 +5,7 @@
 
 namespace velmoriax::desktop {
 
-/// The zone of the desktop, asked anew at each call.
+/// The zone of the desktop, read at each call.
 class SystemTimeZone : public platform::TimeZone {
 public:
     platform::ZoneInfo current() const override;

@@ -16,7 +16,7 @@ class Tray : public QObject {
 public:
     using QObject::QObject;
 
-    /// Shows the icon with its tip and its menu. The menu stays with its owner.
+    /// Shows the icon with its tip and its menu, which must exist until the icon is removed.
     virtual void add(const QString& tip, QMenu* menu) = 0;
     virtual void update(const QString& tip) = 0;
     virtual void remove() = 0;
@@ -38,7 +38,7 @@ public:
     virtual QRect geometry() const = 0;
 
 Q_SIGNALS:
-    // As the buttons of the mouse go up over the icon.
+    // When a button of the mouse is released over the icon.
     void leftClicked();
     void leftDoubleClicked();
     void rightClicked();
@@ -48,7 +48,7 @@ Q_SIGNALS:
     void waitEnded();
     /// A tray has been found, and the icon is in it.
     void trayTaken();
-    /// The tray has gone and not come back for a while: what is hidden cannot be reached by the icon.
+    /// The tray has ended and not started again for some seconds: the icon cannot bring back a hidden window.
     void trayLost();
 };
 

@@ -6,7 +6,7 @@
 namespace velmoriax::desktop {
 
 ::xcb_connection_t* x11Connection() {
-    // The platform that draws to nowhere has the interface as well, without a connection behind it.
+    // The offscreen platform has the interface as well, without a connection.
     auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     return x11 ? x11->connection() : nullptr;
 }

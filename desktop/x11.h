@@ -15,7 +15,7 @@ using XcbReply = std::unique_ptr<Reply, decltype(&std::free)>;
 /// The connection to the X server; null on another platform.
 ::xcb_connection_t* x11Connection();
 
-/// The atom of a name, XCB_ATOM_NONE when nobody has made it.
+/// The atom of a name, XCB_ATOM_NONE when no program has created it.
 ::xcb_atom_t x11Atom(::xcb_connection_t* connection, const std::string& name);
 
 } // namespace velmoriax::desktop

@@ -10,7 +10,7 @@ namespace velmoriax::desktop {
 /// Entries in the user's autostart folder, by the XDG rules.
 class XdgAutostart : public platform::Autostart {
 public:
-    /// `executable` is the path that a login shall start.
+    /// `executable` is the path of the program that is started at login.
     explicit XdgAutostart(std::filesystem::path executable) : executable_(std::move(executable)) {}
     bool write(const std::string& name) override;
     bool erase(const std::string& name) override;

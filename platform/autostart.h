@@ -5,14 +5,15 @@
 
 namespace velmoriax::platform {
 
-/// The desktop's list of programs that start at login. Results are not looked at by the program.
+/// The programs that the desktop starts at login.
 class Autostart {
 public:
     virtual ~Autostart() = default;
 
-    /// Creates or rewrites the entry `name` so that it starts this program's executable.
+    /// Creates or rewrites the entry `name` so that it starts this program's executable. False when that fails.
     virtual bool write(const std::string& name) = 0;
 
+    /// Deletes the entry. False when there is none or it cannot be deleted.
     virtual bool erase(const std::string& name) = 0;
 };
 

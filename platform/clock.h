@@ -5,12 +5,13 @@
 
 namespace velmoriax::platform {
 
-/// The only place that knows the present.
+/// The present, for which the program asks nothing else.
 class Clock {
 public:
     virtual ~Clock() = default;
 
-    /// Local date and time of day in whole seconds, taken from calendar fields and never from an instant.
+    /// Local date and time of day in whole seconds, from calendar fields and never computed from an instant; 0 when the
+    /// system has no answer.
     virtual base::DateValue now() const = 0;
 };
 

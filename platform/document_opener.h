@@ -5,12 +5,13 @@
 
 namespace velmoriax::platform {
 
+/// Opens documents and addresses in the programs of the desktop.
 class DocumentOpener {
 public:
     virtual ~DocumentOpener() = default;
 
-    /// Hands a file of the program or an address to what the desktop associates with it. When nothing does, or the file
-    /// is missing, nothing happens and false comes back.
+    /// Opens a file of the program or an address in the program that the desktop associates with it. False when there
+    /// is none or the file is missing.
     virtual bool open(const std::string& target) = 0;
 };
 

@@ -5,12 +5,12 @@
 
 namespace velmoriax::platform {
 
-/// The one end of everything that the program does not survive.
+/// Ends the program after an error from which it cannot continue.
 class FatalStop {
 public:
     virtual ~FatalStop() = default;
 
-    /// Shows the error's message in a critical box, takes the tray icon away and ends the process with status 1.
+    /// Shows the error's message in a critical box, removes the tray icon and ends the process with status 1.
     [[noreturn]] virtual void stop(const base::RunTimeError& error) = 0;
 };
 

@@ -17,7 +17,7 @@ public:
     enum class Status {
         read,
         missing,
-        unreadable, ///< it is there and cannot be read: a directory, no permission, a failing disk
+        unreadable, ///< it exists and cannot be read: a directory, no permission, a failing disk
     };
     struct Content {
         Status status = Status::missing;
@@ -30,22 +30,23 @@ public:
     virtual Content read(const std::string& path) const = 0;
     virtual bool exists(const std::string& path) const = 0;
 
-    /// Replaces a file as a whole. On failure (false) the old content is kept.
+    /// Replaces the whole file. On failure (false) the old content is kept.
     virtual bool replace(const std::string& path, const std::string& bytes) = 0;
 
     /// Adds to the end of a file, creating the file but not its directory. On failure (false) the old content is kept.
     virtual bool append(const std::string& path, const std::string& bytes) = 0;
 
+    /// Deletes a file. False when there is none or it cannot be deleted.
     virtual bool remove(const std::string& path) = 0;
 
-    /// Renames `from` to `to`, replacing what is there, across file systems as well. On failure (false) what
-    /// was under `to` is unchanged.
+    /// Renames `from` to `to`, replacing a file of that name, across file systems as well. On failure (false) the file
+    /// `to` is unchanged.
     virtual bool rename(const std::string& from, const std::string& to) = 0;
 
     /// The folder for temporary files; nothing when there is none.
     virtual std::optional<std::string> temporaryFolder() const = 0;
 
-    /// Creates a new empty file in that folder and returns its path; nothing on failure.
+    /// Creates an empty file in that folder, whose name begins with `prefix`, and returns its path; nothing on failure.
     virtual std::optional<std::string> createTemporaryFile(const std::string& folder, const std::string& prefix) = 0;
 };
 

@@ -5,7 +5,7 @@
 
 namespace velmoriax::platform {
 
-/// The small window that slides up over the taskbar, as seen by those who have something to show.
+/// The small window that slides up over the taskbar, to show a message.
 class Notification {
 public:
     virtual ~Notification() = default;
@@ -19,7 +19,7 @@ public:
     /// Slides the window down when its time is over; it stays loaded.
     virtual void slideDown() = 0;
 
-    /// Slides the window down and takes it away.
+    /// Slides the window down and unloads it.
     virtual void close() = 0;
 
     /// True while the window is shown and does not slide.

@@ -3,6 +3,7 @@
 
 namespace velmoriax::platform {
 
+/// The events that have not been processed yet, for steps that take long.
 class PendingEvents {
 public:
     virtual ~PendingEvents() = default;
@@ -10,7 +11,7 @@ public:
     /// Processes the events that wait, timers and other windows included: a handler may be entered again inside.
     virtual void processEvents() = 0;
 
-    /// True while control is inside `processEvents` or a box: what is under way outside of it still needs its windows.
+    /// True inside `processEvents` or a box: the function that called it still needs its windows.
     virtual bool isProcessing() const = 0;
 };
 

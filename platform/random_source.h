@@ -3,14 +3,15 @@
 
 namespace velmoriax::platform {
 
-/// The one source of chance in the program.
+/// The source of all random numbers of the program.
 class RandomSource {
 public:
     virtual ~RandomSource() = default;
 
+    /// Starts a new sequence, which depends on the time.
     virtual void seedFromClock() = 0;
 
-    /// From 0, included, to 1, excluded, evenly.
+    /// A number from 0, included, to 1, excluded, all equally likely.
     virtual float uniform() = 0;
 };
 

@@ -13,10 +13,10 @@ public:
     enum class Mode { stopped, playing, none };
 
     /// Opens a song, closing the one before, and returns its device; 0 when there is no such song. Does not wait for a
-    /// slow file: its device is returned, and what is wrong with it shows in the mode alone.
+    /// slow file: then the device is returned, and its mode becomes `none` when the song cannot be played.
     virtual int open(const std::string& path) = 0;
 
-    /// Plays to the end of the song and stops there.
+    /// Plays to the end of the song, where the mode becomes `stopped`.
     virtual void play(int device) = 0;
 
     /// `none` for a device that is not open, and for a song that cannot be played.

@@ -5,12 +5,13 @@
 
 namespace velmoriax::platform {
 
+/// The short sounds of the program.
 class Sounds {
 public:
     virtual ~Sounds() = default;
 
-    /// Plays a wave file of the application directory, such as "boop.wav", without waiting. What is missing or cannot
-    /// be played stays silent.
+    /// Plays a wave file of the application directory, such as "boop.wav", without waiting. A file that is
+    /// missing or cannot be played is ignored.
     virtual void playWav(const std::string& name) = 0;
 };
 

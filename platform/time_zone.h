@@ -3,14 +3,15 @@
 
 namespace velmoriax::platform {
 
-/// What the desktop says of its zone at this moment. A zone without daylight saving time answers `standard`.
+/// The zone of the desktop at one moment. A zone without daylight saving time is always `standard`.
 struct ZoneInfo {
     enum class State { unknown, standard, daylight };
     State state = State::unknown;
     int bias = 0;         ///< minutes from local standard time to universal time: 300 for New York
-    int daylightBias = 0; ///< minutes added to `bias` while daylight saving time holds: usually -60
+    int daylightBias = 0; ///< minutes added to `bias` during daylight saving time: usually -60
 };
 
+/// The time zone that the desktop is set to.
 class TimeZone {
 public:
     virtual ~TimeZone() = default;

@@ -95,7 +95,7 @@ void CtxSysTray::pointerMoved() {
     updateTimer();
 }
 
-/// The window answers first, then the watch ends.
+/// The window handles the click first, then the watch ends.
 void CtxSysTray::clicked(int button, bool twice) {
     if (!added_) return;
     if (twice)
@@ -146,7 +146,7 @@ void CtxSysTray::takeTipAway() {
 void CtxSysTray::showTrayBalloon() {
     const bool silent = context_.options.holders.silentTooltips();
     const std::string lines = balloonTextNow();
-    if (!added_) return; // events have run inside, a hand-over among them
+    if (!added_) return; // events were processed inside, a change of module perhaps among them
     Popup(lines, programName, silent ? informationIcon | noSound : informationIcon);
 }
 
@@ -162,7 +162,7 @@ void CtxSysTray::tooltipsSwitched() {
     followTipText();
 }
 
-/// Starts or ends the minutes of the item's text.
+/// Starts or stops the timer that renews the text of an item.
 void CtxSysTray::followTipText() {
     const desktop::Tray& tray = context_.desktop.tray;
     const bool panelShowsText = added_ && tray.decided() && !tray.reportsPointer() && !tooltipsOff();
@@ -181,7 +181,7 @@ void CtxSysTray::refreshTipText() {
     if (added_) context_.desktop.tray.update(lines);
 }
 
-/// Ticks that would do nothing need not wake the program up.
+/// The timer is stopped while its ticks would do nothing, so that they do not wake the program.
 void CtxSysTray::updateTimer() {
     if (!watch_.wantsTicks(tooltips())) return TimerTooltip_.stop();
     if (!TimerTooltip_.isActive()) TimerTooltip_.start();

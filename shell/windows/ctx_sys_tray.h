@@ -13,11 +13,11 @@
 
 namespace velmoriax::shell {
 
-/// A module's hold on the tray icon. Each module has one; the icon of the module that is loaded is the only one. It
-/// turns what happens over the icon into events for its window, and raises the tip while the pointer rests there.
+/// The tray icon as a module uses it. Each module has one of these; only the module that is loaded has added its icon.
+/// It reports the pointer and the clicks over the icon to the window, and shows the tip while the pointer rests there.
 ///
-/// A tray window reports the pointer. A tray item does not: there the panel shows our text by itself, so that the
-/// text is the tip, and is made anew once a minute while tips are on.
+/// A tray window reports the pointer. A tray item does not: there the panel shows the icon's text by itself, so that
+/// the text is the tip, and is renewed once a minute while tips are on.
 class CtxSysTray : public QObject {
     Q_OBJECT
 
@@ -31,23 +31,24 @@ public:
     CtxSysTray(WindowContext& context, QMenu& popup);
     ~CtxSysTray() override;
 
-    /// Adds the icon with a tip text of at most 128 characters. Does nothing while `noTrayAdd` is up.
+    /// Adds the icon with a tip text of at most 128 characters. Does nothing while `noTrayAdd` is set.
     void AddIconToSystray(std::string_view text);
 
-    /// Changes the tip text.
+    /// Changes the tip text, to at most 128 characters; nothing while the icon is not added.
     void UpdateIcon(std::string_view text);
 
+    /// Removes the icon and closes its tip. Does nothing when the icon is not added.
     void RemoveIconFromSystray();
 
-    /// Shows the balloon: a text of at most 256 characters, a title of at most 64, the flags added up.
+    /// Shows the balloon: a text of at most 256 characters, a title of at most 64, and the sum of the flags above.
     void Popup(std::string_view text, std::string_view title, unsigned flags);
     void HidePopUp();
 
-    /// Tips were switched on or off.
+    /// To be called after tips were switched on or off.
     void tooltipsSwitched();
 
 Q_SIGNALS:
-    void MouseMouse(float X, float Y);
+    void MouseMouse(float X, float Y); ///< the pointer's place on the screen, in pixels
     void MouseUp(int Button);
     void DblClick(int Button);
 

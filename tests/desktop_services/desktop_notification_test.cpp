@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-/// Who shows notifications, on a bus and a thread of its own.
+/// A service that shows notifications, on a bus and a thread of its own.
 class FakeServer : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
@@ -42,9 +42,9 @@ Q_SIGNALS:
 namespace velmoriax::desktop {
 namespace {
 
-TEST(DesktopNotification, SpeaksTheProtocolAndFollowsTheAnswers) {
+TEST(DesktopNotification, FollowsTheProtocolOfTheService) {
     DesktopNotification notification;
-    EXPECT_FALSE(notification.show("title", "text")) << "nobody is there yet";
+    EXPECT_FALSE(notification.show("title", "text")) << "there is no service yet";
 
     QThread thread;
     FakeServer server;
@@ -82,7 +82,7 @@ TEST(DesktopNotification, SpeaksTheProtocolAndFollowsTheAnswers) {
     ASSERT_TRUE(notification.show("Biorhythms alert!", "third"));
     notification.close();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !server.closedIds.isEmpty(); }));
-    EXPECT_EQ(server.closedIds, QList<uint>{7}) << "one that has gone is not closed again";
+    EXPECT_EQ(server.closedIds, QList<uint>{7}) << "one that is closed is not closed again";
     thread.quit();
     thread.wait();
 }

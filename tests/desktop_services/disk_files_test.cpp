@@ -23,23 +23,24 @@ TEST_F(DiskFilesTest, BothSpellingsReachOneOptionsFileInAFolderForTheUserAlone) 
     EXPECT_EQ(fs::status(user_).permissions(), fs::perms::owner_all);
 }
 
-TEST_F(DiskFilesTest, TheUsersPictureStandsInPlaceOfTheSuppliedOne) {
+TEST_F(DiskFilesTest, TheUsersPictureReplacesTheSuppliedOne) {
     fs::create_directories(root_ / "share" / "imagenes");
     write(root_ / "share" / "imagenes" / "mago1.jpg", "supplied");
     EXPECT_EQ(bytesAt("\\imagenes\\mago1.jpg"), "supplied");
     fs::create_directory(user_ / "imagenes");
     ASSERT_TRUE(files_.replace(at("\\imagenes\\mago1.jpg"), "my own"));
     EXPECT_EQ(bytesAt("\\imagenes\\mago1.jpg"), "my own");
-    EXPECT_EQ(bytesOf(root_ / "share" / "imagenes" / "mago1.jpg"), "supplied") << "writes are the user's alone";
+    EXPECT_EQ(bytesOf(root_ / "share" / "imagenes" / "mago1.jpg"), "supplied")
+        << "only the user's folder is written to";
     EXPECT_EQ(files_.read(at("\\..\\..\\etc\\passwd")).status, Status::missing);
 }
 
-TEST_F(DiskFilesTest, NobodyWaitsForAPipe) {
+TEST_F(DiskFilesTest, APipeDoesNotBlockTheProgram) {
     ASSERT_EQ(::mkfifo((user_ / "pipe").c_str(), 0600), 0);
     EXPECT_EQ(files_.read(at("\\pipe")).status, Status::unreadable);
 }
 
-TEST_F(DiskFilesTest, ReplacingAndRenamingLeaveNothingBesideAndKeepLinks) {
+TEST_F(DiskFilesTest, ReplacingAndRenamingLeaveNoOtherFileAndKeepLinks) {
     write(root_ / "elsewhere", "old");
     write(root_ / "copy", "renamed");
     fs::create_symlink(root_ / "elsewhere", user_ / "bio.dat");
@@ -51,7 +52,7 @@ TEST_F(DiskFilesTest, ReplacingAndRenamingLeaveNothingBesideAndKeepLinks) {
     EXPECT_EQ(entries(), 2);
 }
 
-TEST_F(DiskFilesTest, TheSweepTakesNoFileOfTheUsers) {
+TEST_F(DiskFilesTest, OnlyLeftoversAreDeletedAtTheStart) {
     fs::create_directory(user_ / ".velmoriax-folder");
     for (const char* name : {".velmoriax-a1B2c3", ".velmoriax-notes", ".velmoriax.lock", "velmoriax-a1B2c3"}) {
         write(user_ / name, "");
@@ -91,7 +92,8 @@ TEST(ProgramPaths, OnlyWhatIsInsideIsTranslated) {
     EXPECT_EQ(platform::fileSystemPath("/a\\b\\logs\\x", "/a\\b"), "/a\\b/logs/x") << "a folder may hold a backslash";
     EXPECT_EQ(platform::fileSystemPath("/tmp/tmp\\1", "/home/x"), "/tmp/tmp\\1");
     for (const char* inRoot : {"/\\bio.dat", "/bio.dat"})
-        EXPECT_EQ(platform::fileSystemPath(inRoot, "/"), "/bio.dat") << "a card lies in a root without a separator";
+        EXPECT_EQ(platform::fileSystemPath(inRoot, "/"), "/bio.dat")
+            << "the path of a card has no separator when the folder is the root";
     EXPECT_TRUE(platform::takesSubdirectory("/abc") && !platform::takesSubdirectory("/ab"));
 }
 

@@ -4,8 +4,9 @@
 
 #include <QTest>
 
-#include <csignal>
 #include <gtest/gtest.h>
+
+#include <csignal>
 
 namespace velmoriax::desktop {
 namespace {

@@ -71,7 +71,7 @@ private:
     void (*before_)(int) = nullptr;
 };
 
-TEST_F(HardDisk, AFullDiskLeavesEveryFileAndNothingBeside) {
+TEST_F(HardDisk, AFullDiskLeavesEveryFileAndNoOther) {
     const test::Variable temporary("TMPDIR", root_);
     const auto before = contents();
     const auto count = entries();
@@ -159,7 +159,7 @@ using Write = void (*)(DiskFiles& files, int turn);
 struct KilledWrites : test::DiskFixture {
     KilledWrites() { fs::create_directory(root_ / "tmp"); }
 
-    /// Lays the files of a writer and learns what an undisturbed run leaves of them.
+    /// Creates the files of a writer and records their contents after each step of an undisturbed run.
     void prepare(Write write) {
         whole_.clear();
         files_.replace(at("\\opciones.ini"), "[opciones]\r\nTirada=real\r\n" + manyLines("; a remark"));
@@ -170,13 +170,13 @@ struct KilledWrites : test::DiskFixture {
         }
     }
 
-    enum Kind { whole, onTheirWay };
-    /// The program's files, or what is left beside them, only on its way to become one.
+    enum Kind { whole, halfWritten };
+    /// The program's files, or the half-written ones beside them.
     std::vector<fs::path> filesThatAre(Kind kind) const {
         std::vector<fs::path> all;
         for (const auto& entry : fs::directory_iterator(user_)) {
             const bool temporary = entry.path().filename().string().starts_with(".velmoriax-");
-            if (entry.is_regular_file() && temporary == (kind == onTheirWay)) all.push_back(entry.path());
+            if (entry.is_regular_file() && temporary == (kind == halfWritten)) all.push_back(entry.path());
         }
         return all;
     }
@@ -186,7 +186,7 @@ struct KilledWrites : test::DiskFixture {
             ASSERT_TRUE(states.contains(test::bytesOf(path))) << path << " is neither old nor new after kill " << kill;
     }
 
-    /// Lets a process write as fast as it can, and kills it after some time.
+    /// Starts a process that writes as fast as it can, and kills it after some time.
     void killWhileWriting(Write write, int microseconds) {
         const ::pid_t writer = ::fork();
         ASSERT_GT(writer, -1) << "no process to kill";
@@ -201,10 +201,10 @@ struct KilledWrites : test::DiskFixture {
     }
 
     test::Variable temporary_{"TMPDIR", root_ / "tmp"};
-    std::map<fs::path, std::set<std::string>> whole_; ///< what an undisturbed run leaves
+    std::map<fs::path, std::set<std::string>> whole_; ///< after each step of an undisturbed run
 };
 
-TEST_F(KilledWrites, LeaveEveryFileWholeAndTheNextStartSweepsTheRest) {
+TEST_F(KilledWrites, LeaveEveryFileWholeAndTheNextStartDeletesTheRest) {
     std::mt19937 random(15);
     std::uniform_int_distribution<int> microseconds(100, 15'000);
     for (const Write write : {writeOptions, writeDatFiles, deleteAndSaveProfile, editProfile}) {
@@ -214,14 +214,14 @@ TEST_F(KilledWrites, LeaveEveryFileWholeAndTheNextStartSweepsTheRest) {
             ASSERT_NO_FATAL_FAILURE(expectWholeFiles(kill));
         }
     }
-    const auto left = filesThatAre(onTheirWay);
+    const auto left = filesThatAre(halfWritten);
     std::cout << "the kills left " << left.size() << " half-written files\n";
     files_.createFolders();
-    EXPECT_EQ(filesThatAre(onTheirWay), left) << "what is fresh may be another instance's";
+    EXPECT_EQ(filesThatAre(halfWritten), left) << "what is fresh may be another instance's";
     for (const fs::path& path : left)
         fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::minutes(2));
     files_.createFolders();
-    EXPECT_TRUE(filesThatAre(onTheirWay).empty());
+    EXPECT_TRUE(filesThatAre(halfWritten).empty());
     expectWholeFiles(kills);
 }
 

@@ -13,10 +13,10 @@
 #include <QTest>
 #include <QTimer>
 
-/// Windows without a desktop: all its services are fakes, on the platform that draws to nowhere.
+/// Windows without a desktop: all its services are fakes, on the offscreen platform.
 namespace velmoriax::test {
 
-/// The bytes of a small black picture with one pixel, the first if nothing else is said, that tells it from the others.
+/// The bytes of a small black picture with one pixel, by default the first, that distinguishes it from the others.
 inline std::string pictureBytes(QRgb mark, QPoint at = {}) {
     QImage picture(8, 8, QImage::Format_RGB32);
     picture.fill(Qt::black);
@@ -32,7 +32,7 @@ inline QRgb ownBack() {
     return QImage(QStringLiteral(":/tarot/card_back.jpg")).pixel(0, 0);
 }
 
-/// A desktop of fakes, and the hands for its windows.
+/// A desktop of fakes, and functions that find and use the controls of its windows.
 class DesktopFixture : public testing::Test {
 protected:
     /// A control by its object name.
@@ -42,7 +42,7 @@ protected:
         if (!found) throw std::logic_error(std::string("no control ") + name);
         return *found;
     }
-    /// What is written on a label, a button or in a field.
+    /// The text of a label, a button or a field.
     static std::string textOf(const QWidget& window, const char* name) {
         const QVariant text = control<QWidget>(window, name).property("text");
         if (!text.isValid()) throw std::logic_error(std::string("no text on ") + name);
@@ -69,7 +69,7 @@ protected:
         return control<widgets::PictureBox>(window, name).picture().pixel(at);
     }
     static void press(const QWidget& window, const char* name) { control<QAbstractButton>(window, name).click(); }
-    /// A tick of a timer by its name.
+    /// Lets a timer, by its name, time out.
     static void fire(const QObject& owner, const char* timer) {
         auto* found = owner.findChild<QTimer*>(QString::fromUtf8(timer));
         if (!found) throw std::logic_error(std::string("no timer ") + timer);

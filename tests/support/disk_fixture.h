@@ -27,7 +27,7 @@ private:
     std::optional<std::string> before_;
 };
 
-/// The program's files on the real disk, in a folder that nobody else has; it goes with the test.
+/// The program's files on the real disk, in a folder of their own, which is deleted after the test.
 class DiskFixture : public testing::Test {
 protected:
     DiskFixture() { files_.createFolders(); }

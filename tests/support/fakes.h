@@ -94,7 +94,7 @@ struct FakeSounds : platform::Sounds {
     void playWav(const std::string& name) override { played.push_back(name); }
 };
 
-/// A song player by hand: only the songs laid ready can be opened, and `ends` brings the one that plays to its end.
+/// A song player in which only the songs of the test can be opened, and a song ends when the test calls `ends`.
 struct FakeSongPlayer : platform::SongPlayer {
     std::set<std::string> songs;
     std::vector<std::string> starts; ///< the songs in the order in which they began to play
@@ -135,7 +135,7 @@ struct FakeOpener : platform::DocumentOpener {
     }
 };
 
-/// Records the boxes and answers from what the test laid ready; with nothing ready, No and cancel.
+/// Records the boxes and returns the answers that the test has prepared; without one, No and cancel.
 struct FakeBoxes : platform::MessageBoxes {
     struct Shown {
         platform::BoxIcon icon;
@@ -183,7 +183,7 @@ using Shown = std::vector<FakeBoxes::Shown>;
 struct FakeNotification : platform::Notification {
     std::vector<std::string> texts;
     bool open = false;
-    bool opens = true; ///< whether a slide ends with the window standing
+    bool opens = true; ///< whether the window is up after a slide
     void slideUp(const std::string& text) override {
         texts.push_back(text);
         open = opens;
@@ -197,7 +197,7 @@ struct FakeNotification : platform::Notification {
 };
 
 struct FakeRandom : platform::RandomSource {
-    std::deque<float> numbers; ///< handed out in order; 0 when none is left
+    std::deque<float> numbers; ///< returned in this order, then 0
     int seeds = 0;
     void seedFromClock() override { ++seeds; }
     float uniform() override {

@@ -18,7 +18,7 @@ namespace velmoriax::test {
 template<typename... Columns>
 using Table = std::vector<std::tuple<Columns...>>;
 
-/// What the program would not survive of a run; nothing when it comes through.
+/// The error that would end the program in a run; nothing when there is none.
 template<typename Run>
 std::optional<base::RunTimeError> errorOf(Run run) {
     try {

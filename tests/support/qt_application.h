@@ -3,14 +3,14 @@
 
 #include <QApplication>
 
-/// The font library keeps its caches to the end of the process and has no one to free them.
+/// The font library never frees its caches.
 extern "C" [[gnu::weak]] const char* __lsan_default_suppressions() {
     return "leak:libfontconfig\n";
 }
 
 namespace velmoriax::test {
 
-/// The application of the tests, on the platform that draws to nowhere.
+/// The application of the tests, on the offscreen platform.
 inline QApplication& application() {
     static int argc = 1;
     static char name[] = "test";
