@@ -15,7 +15,7 @@ public:
     explicit SingleInstance(const std::string& directory);
     ~SingleInstance();
 
-    /// False when another instance runs. True in a directory that cannot be written to, where no lock is possible.
+    /// False when another instance holds the lock. True where there is no lock and none can be created.
     bool isFirst() const { return first_; }
 
 private:
