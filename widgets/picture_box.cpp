@@ -36,7 +36,7 @@ std::string pictureBytes(const platform::Files& files, const std::string& path) 
 
 QImage loadPicture(const platform::Files& files, const std::string& path) {
     const std::string bytes = pictureBytes(files, path);
-    const QImage picture = QImage::fromData(QByteArray::fromStdString(bytes), formatOf(bytes));
+    QImage picture = QImage::fromData(QByteArray::fromStdString(bytes), formatOf(bytes));
     if (picture.isNull()) throw RunTimeError(Code::invalidPicture, path);
     return picture;
 }

@@ -6,6 +6,7 @@
 #include "widgets/picture_box.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace velmoriax::tarot {
 
@@ -55,8 +56,10 @@ void SignPane::showIn(const QRect& place, const QString& text) {
 
 void SignPane::fitFont(const QSize& room) {
     QFont letters = parentWidget()->font();
-    for (double size = letters.pointSizeF(); size >= smallestLetters; --size) {
-        letters.setPointSizeF(size);
+    const double largest = letters.pointSizeF();
+    const auto steps = static_cast<int>(std::floor(largest - smallestLetters));
+    for (int step = 0; step <= steps; ++step) {
+        letters.setPointSizeF(largest - step);
         setFont(letters);
         if (heightForWidth(room.width()) <= room.height()) return;
     }
