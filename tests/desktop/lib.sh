@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# What the tests on the real desktop have in common. To be sourced by a script that runs on a virtual desktop and gets the
-# built program folder as its first argument. Each test works on a copy of that folder, with a home of its own.
+# What the tests on the real desktop share. To be sourced by a script that runs on a virtual desktop and gets the
+# built program folder as its first argument. Each test works on a copy of that folder, with a home folder of its own.
 
 set -euo pipefail
 
@@ -11,21 +11,21 @@ rm -rf "$program_folder/logs"
 export HOME="$program_folder/home" XDG_CONFIG_HOME="$program_folder/home/.config"
 unset XDG_DATA_HOME
 mkdir -p "$HOME"
-# options LINES: the options file of a test. Alerts are off and a birth date is set, so that no notification comes up
-# over what a test looks at, unless it asks for one.
+# options LINES: the options file of a test. Alerts are off and a birth date is set, so that no notification covers
+# what a test examines, unless the test asks for one.
 options() {
   printf '[opciones]\r\nNivel Alertas=None\r\n%b' "$1" > "$program_folder/opciones.ini"
 }
 options ''
 printf '15,3,1980\r\n' > "$program_folder/bio.dat"
 
-# The first key of a new server changes the keyboard, at which the window manager grabs its keys anew: a key pressed in
-# that moment does not reach it.
+# The first key of a new server changes the keyboard, and the window manager then grabs its keys again: it misses a key that
+# is pressed in that moment.
 xdotool key Shift_L
 sleep 0.3
 
 program=''
-panel='' # of a test that keeps its own
+panel='' # the panel that a test starts by itself
 
 cleanup() {
   stop_program
@@ -80,7 +80,7 @@ window_titles() {
   done
 }
 
-# grep reads to the end: one that leaves early would end the list with a broken pipe, which counts as a failure.
+# grep reads to the end: one that exits early would end window_titles with a broken pipe, which counts as a failure.
 has_window() { window_titles | grep -x "$1" > /dev/null; }
 window_is() { [ "$(window_titles)" = "$1" ]; }
 no_window() { [ -z "$(window_titles)" ]; }
@@ -91,7 +91,7 @@ press_in() { # TITLE KEY: focuses the window, as a user does before typing
 }
 window_id() { xdotool search --onlyvisible --name "^$1\$" | head -n 1; }
 
-# The icons that the panel has taken in: small windows of ours below the panel's.
+# How many icons the panel shows: small windows of the program inside the panel's.
 tray_icons() { xwininfo -root -tree | grep -cE '"Velmoriax" "Velmoriax"\) +[0-9]{2}x[0-9]{2}\+' || true; }
 one_icon() { [ "$(tray_icons)" = 1 ]; }
 no_icon() { [ "$(tray_icons)" = 0 ]; }

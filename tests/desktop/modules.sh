@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The six modules as their user finds them, and the ways between them. To be sourced after lib.sh.
+# The titles of the six modules, and the keys that switch between them. To be sourced after lib.sh.
 
 declare -A title=(
   [card]='The Card of Day...' [other]='Another Day...' [oracle]=ORACLE [names]=Names [numbers]=Numbers [bio]=Biorhythms)
 
-# How each module goes to the others: a key of its own, or the entry of its menu (counted from 0).
+# The keys that open another module: a shortcut, or a menu and the index of its entry (from 0).
 declare -A way=(
   [card:bio]='alt+b' [card:oracle]='alt+o' [card:numbers]='alt+n' [card:names]='alt+a' [card:other]='alt+d'
   [other:card]='alt+t' [other:names]='alt+a' [other:numbers]='alt+n' [other:oracle]='alt+o' [other:bio]='alt+b'
