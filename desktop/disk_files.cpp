@@ -151,11 +151,15 @@ ProgramFolders programFolders(const fs::path& executable) {
 
 DiskFiles::DiskFiles(ProgramFolders folders) : folders_(std::move(folders)) {}
 
-void DiskFiles::createFolders() {
+void DiskFiles::createApplicationDirectory() {
     std::error_code error;
     fs::create_directories(folders_.user.parent_path(), error);
     if (fs::create_directory(folders_.user, error))
         fs::permissions(folders_.user, fs::perms::owner_all, fs::perm_options::replace, error);
+}
+
+void DiskFiles::prepareFolders() {
+    std::error_code error;
     fs::create_directory(folders_.user / "logs", error);
     for (const fs::path& folder : {folders_.user, folders_.user / "logs"}) sweepLeftovers(folder);
 }

@@ -24,9 +24,12 @@ public:
 
     const ProgramFolders& folders() const { return folders_; }
 
-    /// Creates the application directory (for the user alone) and the folder of the logs, and deletes the
-    /// half-written files, at least a minute old, that a killed or crashed process has left in both.
-    void createFolders();
+    /// Creates the application directory, for the user alone.
+    void createApplicationDirectory();
+
+    /// Creates the folder of the logs, and deletes the half-written files, at least a minute old, that a killed or
+    /// crashed process has left there and in the application directory.
+    void prepareFolders();
 
     /// The path under which a program path is read: the user's file, or the supplied one when the user has none.
     std::filesystem::path readPath(const std::string& path) const;

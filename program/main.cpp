@@ -18,6 +18,7 @@
 #include "shell/windows/notifications.h"
 #include "widgets/look.h"
 
+#include <QFileInfo>
 #include <QSessionManager>
 
 #include <cstdlib>
@@ -48,7 +49,8 @@ QIcon programIcon() {
 }
 
 void refuseSecondInstance(platform::MessageBoxes& boxes) {
-    boxes.show(platform::BoxIcon::information, "Velmoriax.EXE is already running!");
+    const QString executable = QFileInfo(QApplication::applicationFilePath()).fileName();
+    boxes.show(platform::BoxIcon::information, executable.toStdString() + ".EXE is already running!");
 }
 
 /// The end of a session asks nothing, and the desktop shall not start the program again by itself.
@@ -73,12 +75,13 @@ int main(int argc, char** argv) {
 
     desktop::QtMessageBoxes boxes;
     desktop::DiskFiles files(desktop::programFolders(QApplication::applicationFilePath().toStdString()));
-    files.createFolders();
+    files.createApplicationDirectory();
     const desktop::SingleInstance instance(files.applicationDirectory());
     if (!instance.isFirst()) {
         refuseSecondInstance(boxes);
         return EXIT_SUCCESS;
     }
+    files.prepareFolders();
 
     desktop::SystemClock clock;
     desktop::SystemTimeZone zone;

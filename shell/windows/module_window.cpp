@@ -75,7 +75,10 @@ bool ModuleWindow::isLoaded() const {
 
 void ModuleWindow::showNormalState() {
     if (!isLoaded()) return;
+    const bool leavesMaximised = isMaximized();
+    const QRect normal = normalGeometry();
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
+    if (leavesMaximised && isHidden()) setGeometry(normal); // a closed window would keep the size of the screen
     show();
     raise();
     activateWindow();

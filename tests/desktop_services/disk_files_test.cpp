@@ -58,7 +58,7 @@ TEST_F(DiskFilesTest, OnlyLeftoversAreDeletedAtTheStart) {
         write(user_ / name, "");
         fs::last_write_time(user_ / name, fs::file_time_type::clock::now() - std::chrono::hours(48));
     }
-    files_.createFolders();
+    files_.prepareFolders();
     EXPECT_FALSE(fs::exists(user_ / ".velmoriax-a1B2c3"));
     EXPECT_EQ(entries(), 5);
 }

@@ -100,7 +100,7 @@ TEST_F(HardDisk, AReadOnlyFolderLeavesEveryFile) {
         if (entry.is_regular_file()) fs::permissions(entry, fs::perms(0444));
     const auto before = contents();
     const auto run = [&] {
-        files_.createFolders();
+        files_.prepareFolders();
         return everyWriteFails() && contents() == before && options_.option(shell::key::tirada) == "real";
     };
     EXPECT_EXIT(asCommonUser(run), testing::ExitedWithCode(EXIT_SUCCESS), "");
@@ -216,11 +216,11 @@ TEST_F(KilledWrites, LeaveEveryFileWholeAndTheNextStartDeletesTheRest) {
     }
     const auto left = filesThatAre(halfWritten);
     std::cout << "the kills left " << left.size() << " half-written files\n";
-    files_.createFolders();
+    files_.prepareFolders();
     EXPECT_EQ(filesThatAre(halfWritten), left) << "what is fresh may be another instance's";
     for (const fs::path& path : left)
         fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::minutes(2));
-    files_.createFolders();
+    files_.prepareFolders();
     EXPECT_TRUE(filesThatAre(halfWritten).empty());
     expectWholeFiles(kills);
 }

@@ -30,7 +30,10 @@ private:
 /// The program's files on the real disk, in a folder of their own, which is deleted after the test.
 class DiskFixture : public testing::Test {
 protected:
-    DiskFixture() { files_.createFolders(); }
+    DiskFixture() {
+        files_.createApplicationDirectory();
+        files_.prepareFolders();
+    }
     ~DiskFixture() override { fs::remove_all(root_); }
 
     static fs::path freshFolder() {
