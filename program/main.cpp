@@ -16,6 +16,7 @@
 #include "program/modules.h"
 #include "shell/windows/frm_timer.h"
 #include "shell/windows/notifications.h"
+#include "widgets/input_rules.h"
 #include "widgets/look.h"
 
 #include <QFileInfo>
@@ -72,6 +73,7 @@ int main(int argc, char** argv) {
     const QIcon icon = programIcon();
     application.setWindowIcon(icon);
     widgets::look::apply(application);
+    const widgets::InputRules inputRules(application);
 
     desktop::QtMessageBoxes boxes;
     desktop::DiskFiles files(desktop::programFolders(QApplication::applicationFilePath().toStdString()));

@@ -2,6 +2,7 @@
 #include "widgets/calendar.h"
 
 #include "widgets/look.h"
+#include "widgets/typed_date.h"
 
 #include <QCalendarWidget>
 #include <QTextCharFormat>
@@ -10,9 +11,6 @@
 namespace velmoriax::widgets {
 
 namespace {
-
-constexpr int firstYear = 100;
-constexpr int lastYear = 9999;
 
 QTextCharFormat lettersIn(const QColor& colour) {
     QTextCharFormat format;
@@ -32,7 +30,7 @@ void setUpCalendar(QCalendarWidget& calendar) {
     calendar.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     calendar.setFirstDayOfWeek(Qt::Sunday);
     calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    calendar.setDateRange({firstYear, 1, 1}, {lastYear, 12, 31});
+    calendar.setDateRange({firstPickedYear, 1, 1}, {lastPickedYear, 12, 31});
     QTextCharFormat header = lettersIn(look::gold());
     header.setBackground(look::panel());
     calendar.setHeaderTextFormat(header);

@@ -6,11 +6,21 @@
 
 #include <QLineEdit>
 #include <QSignalBlocker>
-#include <QWheelEvent>
+#include <QStyle>
+
+#include <algorithm>
+#include <optional>
 
 namespace velmoriax::widgets {
 
 namespace {
+
+/// The number of a text in Latin digits; nothing for any other text.
+std::optional<int> numberOf(const QString& text) {
+    bool isNumber = false;
+    const int number = QLocale::c().toInt(text, &isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
 
 constexpr int lettersOfUniqueName = 3; ///< "Jun" and "Jul", "Mar" and "May" differ in the third
 
@@ -28,10 +38,12 @@ int monthBeginningWith(const QString& text) {
 } // namespace
 
 SpinBox::SpinBox(QWidget* parent) : QSpinBox(parent) {
+    setLocale(QLocale::c()); // Latin digits, whatever the desktop's language
     setKeyboardTracking(false);
-    setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
     setFocusPolicy(Qt::StrongFocus);
     setAccelerated(true);
+    connect(lineEdit(), &QLineEdit::textEdited, this, &SpinBox::markOutside);
+    connect(this, &QAbstractSpinBox::editingFinished, this, &SpinBox::markOutside);
 }
 
 QString SpinBox::face() const {
@@ -42,14 +54,35 @@ void SpinBox::setFace(const QString& name) {
     lineEdit()->setObjectName(name);
 }
 
+void SpinBox::commitTyped() {
+    interpretText();
+    markOutside();
+}
+
 void SpinBox::showValue(int value) {
     const QSignalBlocker quiet(this);
     setValue(value);
 }
 
-void SpinBox::wheelEvent(QWheelEvent* event) {
-    if (hasFocus()) return QSpinBox::wheelEvent(event);
-    event->ignore();
+QValidator::State SpinBox::validate(QString& text, int&) const {
+    if (text.isEmpty()) return QValidator::Intermediate;
+    const auto number = numberOf(text);
+    const auto longest = std::max<qsizetype>(QString::number(maximum()).size(), 2);
+    if (!number || *number < 0 || text.size() > longest) return QValidator::Invalid;
+    return *number >= minimum() && *number <= maximum() ? QValidator::Acceptable : QValidator::Intermediate;
+}
+
+void SpinBox::fixup(QString& text) const {
+    const auto number = numberOf(text);
+    if (number) text = textFromValue(std::clamp(*number, minimum(), maximum()));
+}
+
+void SpinBox::markOutside() {
+    const auto number = numberOf(text());
+    const bool outside = number && (*number < minimum() || *number > maximum());
+    if (outside == lineEdit()->property("outside").toBool()) return;
+    lineEdit()->setProperty("outside", outside);
+    lineEdit()->style()->polish(lineEdit());
 }
 
 MonthSpinBox::MonthSpinBox(QWidget* parent) : SpinBox(parent) {
@@ -61,16 +94,13 @@ QString MonthSpinBox::textFromValue(int value) const {
 }
 
 int MonthSpinBox::valueFromText(const QString& text) const {
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    return isNumber ? number : monthBeginningWith(text);
+    return numberOf(text).value_or(monthBeginningWith(text));
 }
 
-QValidator::State MonthSpinBox::validate(QString& text, int&) const {
-    if (text.isEmpty() || text == u"0") return QValidator::Intermediate;
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    if (isNumber) return number >= 1 && number <= 12 ? QValidator::Acceptable : QValidator::Invalid;
+QValidator::State MonthSpinBox::validate(QString& text, int& position) const {
+    const auto number = numberOf(text);
+    if (number && *number > maximum()) return QValidator::Invalid; // there is no nearest month to a thirteenth
+    if (text.isEmpty() || number) return SpinBox::validate(text, position);
     if (monthBeginningWith(text) == 0) return QValidator::Invalid;
     return text.size() < lettersOfUniqueName ? QValidator::Intermediate : QValidator::Acceptable;
 }

@@ -5,9 +5,9 @@
 
 namespace velmoriax::widgets {
 
-/// A bounded number that is stepped or typed. What is typed counts when it is complete, not at each key, and a value
-/// set from code emits its signal inside the call, as one set by hand does. Its text is a control with a name of its
-/// own.
+/// A bounded number that is stepped or typed. What is typed counts when it is complete, not at each key: a number
+/// outside the bounds can be typed, is shown in another colour, and then becomes the nearest bound. A value set from
+/// code emits its signal inside the call, as one set by the user does. Its text is a control with a name of its own.
 class SpinBox : public QSpinBox {
     Q_OBJECT
     Q_PROPERTY(QString face READ face WRITE setFace)
@@ -19,12 +19,18 @@ public:
     QString face() const;
     void setFace(const QString& name);
 
+    /// Takes what is typed.
+    void commitTyped();
+
     /// Sets the value without a signal.
     void showValue(int value);
 
 protected:
-    /// A wheel that passes over on its way through the window changes nothing.
-    void wheelEvent(QWheelEvent* event) override;
+    QValidator::State validate(QString& text, int& position) const override;
+    void fixup(QString& text) const override;
+
+private:
+    void markOutside();
 };
 
 /// The twelve months by name; a number or the beginning of a name can be typed.

@@ -14,7 +14,6 @@ namespace velmoriax::biorhythm {
 FormMod::FormMod(shell::WindowContext& context) : SecondaryWindow(context), ui_(std::make_unique<Ui::FormMod>()) {
     ui_->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
-    widgets::setUpDatePicker(*ui_->DTPicker1);
     connect(ui_->CmdAcept, &QPushButton::clicked, this, &FormMod::submit);
     connect(ui_->TextName, &QLineEdit::returnPressed, this, &FormMod::submit);
     connect(ui_->CmdCancel, &QPushButton::clicked, this, &FormMod::close);

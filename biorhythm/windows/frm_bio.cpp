@@ -73,7 +73,6 @@ void frmBio::setUpControls() {
     ui_->CmdAlert->setIcon(QIcon(QStringLiteral(":/bio/alert.png")));
     for (QLabel* label : {ui_->LabelGetTime, ui_->LabelLived, ui_->LabelRest, ui_->LabelAvg})
         widgets::look::asQuiet(*label);
-    widgets::setUpDatePicker(*ui_->DTPicker1);
 }
 
 void frmBio::connectDateBoxes() {
@@ -105,7 +104,7 @@ void frmBio::connectReading() {
         calcBio();
     });
     connect(ui_->CmdGo, &QPushButton::clicked, this, [this] { goToReading(withinView(view().finalDate)); });
-    connect(ui_->DTPicker1, &QDateEdit::dateChanged, this, &frmBio::takeTarget);
+    connect(ui_->DTPicker1, &widgets::DatePicker::dateChanged, this, &frmBio::takeTarget);
     connect(arrows_, &ReadingArrows::held, this, [this] { view().manualDate = true; });
     connect(arrows_, &ReadingArrows::stepped, this,
             [this](bool back) { goToReading(back ? dayBefore(view().reading) : dayAfter(view().reading)); });

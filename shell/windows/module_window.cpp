@@ -8,6 +8,7 @@
 #include "shell/windows/window_registry.h"
 #include "widgets/conversions.h"
 #include "widgets/focused_button.h"
+#include "widgets/input_rules.h"
 #include "widgets/picture_box.h"
 
 #include <QAbstractButton>
@@ -142,6 +143,7 @@ void ModuleWindow::unload() {
 }
 
 void ModuleWindow::closeOrUnload() {
+    widgets::commitTypedValue();
     beforeClose();
     if (!unloadForReal_) return hideToTray();
     if (!state().closingAll && options().holders.moduleChangesSound()) desktop().sounds.playWav("boop.wav");
@@ -185,6 +187,7 @@ void ModuleWindow::minimised() {
 void ModuleWindow::run(Command command, std::string_view target, std::string_view name) {
     if (!isLoaded() || !context_.switcher.takesCommands())
         return; // a key may still be on its way to a window that is gone
+    widgets::commitTypedValue();
     switch (command) {
     case Command::goTo:
         return context_.switcher.handOver(target);

@@ -5,6 +5,7 @@
 #include "support/fake_tray.h"
 #include "support/fakes.h"
 #include "support/qt_application.h"
+#include "widgets/input_rules.h"
 #include "widgets/picture_box.h"
 
 #include <QAbstractButton>
@@ -92,7 +93,13 @@ protected:
                 VELMORIAX_PLUGIN_DIR};
     }
 
-    QApplication& qt = application();
+    static QApplication& applicationWithRules() {
+        static const auto* const rules = new widgets::InputRules(application());
+        static_cast<void>(rules);
+        return application();
+    }
+
+    QApplication& qt = applicationWithRules();
     FakeClock clock;
     FakeZone zone;
     FakeFiles files;

@@ -7,10 +7,11 @@
 #include "biorhythm/windows/frm_bio.h"
 #include "biorhythm/windows/frm_compa_tab.h"
 #include "biorhythm/windows/frm_profiles.h"
+#include "support/user_input.h"
 #include "support/window_fixture.h"
+#include "widgets/date_picker.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QListWidget>
 #include <QSpinBox>
 

@@ -93,7 +93,7 @@ TEST_F(BioView, StepsTheReadingWhileAnArrowIsHeld) {
 
 TEST_F(BioView, CountsTheTargetFromTodayUntilItCalculates) {
     step(view, "vsbDayBio", 10);
-    control<QDateEdit>(view, "DTPicker1").setDate({2026, 7, 31});
+    control<widgets::DatePicker>(view, "DTPicker1").setDate({2026, 7, 31});
     EXPECT_EQ(textOf(view, "LblRest"), "41");
     step(view, "vsbDayBio", 11);
     EXPECT_EQ(textOf(view, "LblRest"), "50");

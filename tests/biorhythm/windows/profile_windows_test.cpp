@@ -91,7 +91,7 @@ TEST_F(Profiles, ModifyMovesTheRecordToTheEnd) {
     EXPECT_EQ(boxes.shown, (Shown{{BoxIcon::warning, "You must choose a record", "ErrorInfo"}}));
     QWidget& form = edit(1);
     EXPECT_EQ(textOf(form, "TextName"), "Bob");
-    EXPECT_EQ(control<QDateEdit>(form, "DTPicker1").date(), QDate(1980, 1, 1));
+    EXPECT_EQ(control<widgets::DatePicker>(form, "DTPicker1").date(), QDate(1980, 1, 1));
     EXPECT_EQ(textOf(form, "LabelHora") + ':' + textOf(form, "LabelMinuto"), "12:30");
     EXPECT_EQ(lines().find("Bob"), 26U) << "the list is unchanged until the record is submitted";
     step(form, "VScrollHora", 7);
