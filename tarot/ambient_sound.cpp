@@ -7,6 +7,12 @@ namespace {
 
 constexpr std::string_view suppliedSong = "\\Are You Lonesome Tonight.mid";
 
+constexpr std::string_view songRefused =
+    "This song cannot be remembered. Its path may have more than 254 characters or letters that the options file "
+    "cannot "
+    "hold, or the file cannot be written.\n\nThe song chosen before is kept. A copy of the new one in a folder with a "
+    "short and simple name can be chosen.";
+
 void playChosenSong(AmbientSound& sound, const AmbientServices& services) {
     const std::string chosen = services.options.option(shell::key::songAmbient);
     sound.midiFile = chosen.empty() ? services.applicationDirectory + std::string(suppliedSong) : chosen;
@@ -62,7 +68,12 @@ void switchAmbientOff(AmbientSound& sound, const AmbientServices& services) {
 
 void chooseSong(platform::MessageBoxes& boxes, const AmbientServices& services) {
     const auto song = boxes.askFile("Open file...", services.applicationDirectory, "Files mid (*.mid*)");
-    if (song) services.options.setOption(shell::key::songAmbient, *song);
+    if (!song) return;
+    const std::string before = services.options.option(shell::key::songAmbient);
+    services.options.setOption(shell::key::songAmbient, *song);
+    if (services.options.option(shell::key::songAmbient) == *song) return;
+    services.options.setOption(shell::key::songAmbient, before);
+    boxes.show(platform::BoxIcon::warning, std::string(songRefused));
 }
 
 } // namespace velmoriax::tarot

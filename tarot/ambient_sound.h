@@ -51,7 +51,8 @@ bool startAmbient(AmbientSound& sound, const AmbientServices& services);
 void switchAmbientOn(AmbientSound& sound, const AmbientServices& services);
 void switchAmbientOff(AmbientSound& sound, const AmbientServices& services);
 
-/// Asks for a song and stores it. The song that plays is not changed: the choice is used at the next start.
+/// Asks for a song and stores it. The song that plays is not changed: the choice is used at the next start. A path that
+/// the options file does not return as it was written is refused with a message, and the last choice is kept.
 void chooseSong(platform::MessageBoxes& boxes, const AmbientServices& services);
 
 } // namespace velmoriax::tarot

@@ -31,7 +31,7 @@ void cleanInserted(QLineEdit& line, const QString& before) {
 QString oneLine(QString text) {
     static const QRegularExpression atEnds(QStringLiteral("^[\\r\\n\\t\\v\\f\\x{85}\\x{2028}\\x{2029}]+|"
                                                           "[\\r\\n\\t\\v\\f\\x{85}\\x{2028}\\x{2029}]+$"));
-    static const QRegularExpression inside(QStringLiteral("\\r\\n|[\\r\\n\\t\\v\\f\\x{85}\\x{2028}\\x{2029}]"));
+    static const QRegularExpression inside(QStringLiteral("[\\r\\n\\t\\v\\f\\x{85}\\x{2028}\\x{2029}]+"));
     return text.remove(atEnds).replace(inside, QStringLiteral(" "));
 }
 

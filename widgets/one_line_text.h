@@ -7,7 +7,7 @@ class QLineEdit;
 
 namespace velmoriax::widgets {
 
-/// Text for a line: line ends and tabs at its ends are removed; inside it each becomes one space.
+/// Text for a line: line ends and tabs at its ends are removed; inside it a run of them becomes one space.
 QString oneLine(QString text);
 
 /// Makes one line of each text that is pasted or dropped into this control from now on.

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/question_box.h"
 
+#include "widgets/one_line_text.h"
+
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QRegularExpression>
 
 namespace velmoriax::widgets {
 
@@ -45,9 +46,7 @@ void QuestionBox::keyPressEvent(QKeyEvent* event) {
 }
 
 void QuestionBox::insertFromMimeData(const QMimeData* source) {
-    static const QRegularExpression lineEnds(QStringLiteral("[\\r\\n\\x{2028}\\x{2029}]+"));
-    QString text = source->text();
-    insertPlainText(text.replace(lineEnds, QStringLiteral(" ")));
+    insertPlainText(oneLine(source->text()));
 }
 
 } // namespace velmoriax::widgets

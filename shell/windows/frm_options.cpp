@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/frm_options.h"
 
+#include "desktop/tray.h"
 #include "shell/modules.h"
 #include "shell/option_values.h"
 #include "shell/windows/module_window.h"
 #include "shell/windows/window_registry.h"
 #include "ui_frm_options.h"
 #include "widgets/conversions.h"
+#include "widgets/look.h"
 
 #include <QAbstractButton>
 
@@ -29,6 +31,7 @@ FrmOptions::FrmOptions(WindowContext& context) :
     dialog_(context.options, context.state, {context.desktop.autostart, context.desktop.boxes, context.desktop.taskBar},
             context.windows.modules()) {
     ui_->setupUi(this);
+    widgets::look::asQuiet(*ui_->LabelPanelTip);
     for (const ModuleInfo* module : context.windows.modules())
         ui_->Combolist->addItem(widgets::qtText(module->initialText));
     for (const AlertLevel& level : alertLevels) ui_->ComboBio->addItem(widgets::qtText(level.caption));
@@ -43,6 +46,7 @@ FrmOptions::~FrmOptions() = default;
 void FrmOptions::load() {
     dialog_.LeerIni(options().fileName(), optionsSection, {});
     showState();
+    ui_->LabelPanelTip->setVisible(desktop().tray.reachable() && !desktop().tray.reportsPointer());
     centreOverModule();
 }
 

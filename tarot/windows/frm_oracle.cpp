@@ -59,7 +59,6 @@ void Frmoracle::setUpControls() {
         image->setTip(QStringLiteral("On/Off"));
         image->setClickable(true);
     }
-    ui_->ImageSoundMidOn->setAccessibleName(tr("Song on: switch it off"));
     ui_->ImageSoundMidOff->setAccessibleName(tr("Song off: switch it on"));
 
     widgets::setUpCalendar(*ui_->MonthView1);
@@ -245,6 +244,9 @@ void Frmoracle::switchSound(bool on) {
 
 void Frmoracle::showSwitch(bool on) {
     const bool focused = ui_->ImageSoundMidOn->hasFocus() || ui_->ImageSoundMidOff->hasFocus();
+    ui_->ImageSoundMidOn->setAccessibleName(sound_.midiDeviceId != 0
+                                                ? tr("Song on: switch it off")
+                                                : tr("Song on, but it cannot be played: switch it off"));
     ui_->ImageSoundMidOn->setVisible(on);
     ui_->ImageSoundMidOff->setVisible(!on);
     if (focused) (on ? ui_->ImageSoundMidOn : ui_->ImageSoundMidOff)->setFocus();

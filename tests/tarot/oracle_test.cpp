@@ -250,5 +250,17 @@ TEST_F(Ambient, SwitchesAndTakesAChosenSongAtTheNextStart) {
     EXPECT_EQ(options.option(shell::key::soundAmbient), "yes");
 }
 
+TEST_F(Ambient, RefusesASongWhosePathCannotBeRemembered) {
+    options.setOption(shell::key::songAmbient, "/music/own.mid");
+    for (const std::string& path : {std::string("/music/\u6b4c.mid"), "/" + std::string(300, 'a') + ".mid",
+                                    std::string("/music/two\nlines.mid")}) {
+        test::FakeBoxes boxes;
+        boxes.fileAnswers = {path};
+        chooseSong(boxes, services);
+        EXPECT_EQ(boxes.shown.size(), 1U) << path;
+        EXPECT_EQ(options.option(shell::key::songAmbient), "/music/own.mid") << path;
+    }
+}
+
 } // namespace
 } // namespace velmoriax::tarot

@@ -10,8 +10,10 @@
 
 #include <QComboBox>
 #include <QLabel>
+
 #include <QPointer>
 #include <QScreen>
+#include <algorithm>
 
 namespace velmoriax::shell {
 namespace {
@@ -80,6 +82,16 @@ TEST_F(SecondaryWindowsTest, TheListsFollowTheKeyboardAndARefusedChoiceJumpsBack
     EXPECT_TRUE(control<QAbstractButton>(window, "OptionXP").isChecked());
 }
 
+TEST_F(SecondaryWindowsTest, TheOptionsSayWhereThePanelShowsTheTip) {
+    EXPECT_FALSE(shown(touch<FrmOptions>(), "LabelPanelTip"));
+    windows.unload("FrmOptions");
+    tray.arrive(desktop::TrayKind::item);
+    EXPECT_TRUE(shown(touch<FrmOptions>(), "LabelPanelTip"));
+    windows.unload("FrmOptions");
+    tray.arrive(desktop::TrayKind::window);
+    EXPECT_FALSE(shown(touch<FrmOptions>(), "LabelPanelTip"));
+}
+
 TEST_F(SecondaryWindowsTest, OnlyTheButtonOfTheOptionsGivesTheTrayTipFree) {
     state.trayBusy = true;
     QTest::keyClick(&touch<FrmOptions>(), Qt::Key_Escape);
@@ -93,7 +105,9 @@ TEST_F(SecondaryWindowsTest, OnlyTheButtonOfTheOptionsGivesTheTrayTipFree) {
 TEST_F(SecondaryWindowsTest, EveryOptionHasAMnemonicOfItsOwn) {
     const FrmOptions& window = touch<FrmOptions>();
     QStringList letters = mnemonicsOf(window);
-    EXPECT_EQ(letters.size(), window.findChildren<QAbstractButton*>().size() + window.findChildren<QLabel*>().size());
+    const auto labels = window.findChildren<QLabel*>();
+    const auto named = std::ranges::count_if(labels, [](const QLabel* label) { return label->buddy() != nullptr; });
+    EXPECT_EQ(letters.size(), window.findChildren<QAbstractButton*>().size() + named);
     EXPECT_EQ(letters.removeDuplicates(), 0);
 }
 
