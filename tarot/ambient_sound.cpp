@@ -24,14 +24,17 @@ void playChosenSong(AmbientSound& sound, const AmbientServices& services) {
 void openMidiDevice(AmbientSound& sound, const std::string& path, const AmbientServices& services) {
     if (sound.midiDeviceId != 0) services.songs.close(sound.midiDeviceId);
     sound.midiDeviceId = 0;
+    const int own = ++sound.requests;
     const int opened = services.songs.open(path);
     services.events.processEvents();
+    if (own != sound.requests) return services.songs.close(opened);
     sound.midiDeviceId = opened;
     services.songs.play(opened);
     sound.timerOn = true;
 }
 
 void closeAllMidi(AmbientSound& sound, platform::SongPlayer& songs) {
+    ++sound.requests;
     songs.closeAll();
     sound.midiDeviceId = 0;
     sound.timerOn = false;
@@ -43,7 +46,8 @@ void tickMidi(const AmbientSound& sound, platform::SongPlayer& songs) {
     songs.play(sound.midiDeviceId);
 }
 
-void stopMidi(const AmbientSound& sound, platform::SongPlayer& songs) {
+void stopMidi(AmbientSound& sound, platform::SongPlayer& songs) {
+    ++sound.requests;
     songs.stop(sound.midiDeviceId);
     songs.close(sound.midiDeviceId);
 }
@@ -57,8 +61,9 @@ bool startAmbient(AmbientSound& sound, const AmbientServices& services) {
 }
 
 void switchAmbientOn(AmbientSound& sound, const AmbientServices& services) {
+    const int own = sound.requests + 1;
     playChosenSong(sound, services);
-    services.options.setOption(shell::key::soundAmbient, ambientOnWord);
+    if (own == sound.requests) services.options.setOption(shell::key::soundAmbient, ambientOnWord);
 }
 
 void switchAmbientOff(AmbientSound& sound, const AmbientServices& services) {

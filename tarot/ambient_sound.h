@@ -19,6 +19,7 @@ inline constexpr int timerMidiMs = 500;
 
 struct AmbientSound {
     int midiDeviceId = 0; ///< 0 when no device is open
+    int requests = 0;     ///< to start or to stop the sound: a later one has come when it differs
     std::string midiFile; ///< the song in use
     bool timerOn = false; ///< `TimerMidi` ticks
 };
@@ -31,7 +32,8 @@ struct AmbientServices {
     std::string applicationDirectory;
 };
 
-/// Closes the open device, if any, opens a song and plays it. A song that cannot be played leaves silence.
+/// Closes the open device, if any, opens a song and plays it, unless the sound was closed or opened anew while events
+/// were processed in between. A song that cannot be played leaves silence.
 void openMidiDevice(AmbientSound& sound, const std::string& path, const AmbientServices& services);
 
 void closeAllMidi(AmbientSound& sound, platform::SongPlayer& songs);
@@ -41,13 +43,13 @@ void tickMidi(const AmbientSound& sound, platform::SongPlayer& songs);
 
 /// The window closes: the song stops. `midiDeviceId` and the timer stay as they are, and the ticks find nothing to do,
 /// so that a window that is shown again is silent until its switch is turned off and on.
-void stopMidi(const AmbientSound& sound, platform::SongPlayer& songs);
+void stopMidi(AmbientSound& sound, platform::SongPlayer& songs);
 
 /// The sound at the load of the window, by the options. True when the switch is shown as on, which a song that cannot
 /// be played does not change.
 bool startAmbient(AmbientSound& sound, const AmbientServices& services);
 
-/// The switch, either way; it is remembered.
+/// The switch, either way; it is remembered, unless it was used again meanwhile.
 void switchAmbientOn(AmbientSound& sound, const AmbientServices& services);
 void switchAmbientOff(AmbientSound& sound, const AmbientServices& services);
 

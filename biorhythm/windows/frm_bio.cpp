@@ -324,14 +324,13 @@ void frmBio::save() {
     saveBioState(desktop().files, biorhythms_.bio, view().birth, view().finalDate);
 }
 
-/// The windows that work on this view are unloaded with it. As long as one of them was open the next module could not
-/// add its tray icon, without which a hidden program cannot be reached; so it adds the icon now.
+/// The windows that work on this view are unloaded with it. While one of them was open the next module could not add
+/// its tray icon, without which a hidden program cannot be reached; so it adds the icon now.
 void frmBio::unloadDependentWindows() {
-    const bool iconWasHeldBack = state().noTrayAdd;
     for (const auto name : {FormMod::windowName, FrmProfiles::windowName, FrmCompaTab::windowName})
         windows().unload(name);
     shell::ModuleWindow* next = ModuleWindow::loadedIn(windows());
-    if (!iconWasHeldBack || state().closingAll || next == this || !next) return;
+    if (state().closingAll || !next || next == this || next->ctxSysTray1().isAdded()) return;
     next->addTrayIcon();
 }
 

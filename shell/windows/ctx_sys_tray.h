@@ -34,6 +34,8 @@ public:
     /// Adds the icon with a tip text of at most 128 characters. Does nothing while `noTrayAdd` is set.
     void AddIconToSystray(std::string_view text);
 
+    bool isAdded() const { return added_; }
+
     /// Changes the tip text, to at most 128 characters; nothing while the icon is not added.
     void UpdateIcon(std::string_view text);
 

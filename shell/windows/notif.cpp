@@ -62,7 +62,7 @@ Notif::Notif(WindowContext& context) : SecondaryWindow(context, smallWindow), ui
     ui_->Image1->setIcon(QIcon(QStringLiteral(":/popups/close.png")));
     ui_->scroll->viewport()->setAutoFillBackground(false);
     ui_->mTexto->setAutoFillBackground(false);
-    connect(ui_->Image1, &QToolButton::clicked, this, &Notif::onCloseMark);
+    connect(ui_->Image1, &QToolButton::clicked, this, &Notif::dismiss);
 }
 
 Notif::~Notif() = default;
@@ -114,13 +114,15 @@ void Notif::slideUp(QWidget& Ventana) {
 void Notif::slideDown(QWidget& Ventana) {
     const ScreenMeasures screen = measuresOf(QGuiApplication::primaryScreen());
     widgets::NotTopmost(Ventana);
-    slide(Ventana, 1, [&] { return notifHiddenTop(screen, Ventana.height()); });
+    if (!slide(Ventana, 1, [&] { return notifHiddenTop(screen, Ventana.height()); })) return;
+    Ventana.hide(); // only moved, it would be on a screen below, or be seen when the screen grows
     state().notifOpen = false;
 }
 
-/// One pixel a step, and all events at each. The goal is asked for anew, since a slide inside this one may have given
-/// the window another height. False when the program ends or the window is wanted away meanwhile.
+/// One pixel a step, and all events at each. False when the program ends, the window is unloaded or another slide
+/// begins meanwhile: the latest one decides where the window is, and sets the flag.
 bool Notif::slide(QWidget& Ventana, int step, const std::function<int()>& goal) {
+    const int own = ++slides_;
     const qint64 pace = slideMs * 1000 / std::max(1, std::abs(goal() - top_));
     QElapsedTimer clock;
     clock.start();
@@ -128,7 +130,7 @@ bool Notif::slide(QWidget& Ventana, int step, const std::function<int()>& goal) 
         top_ += step;
         Ventana.move(Ventana.x(), top_);
         desktop().events.processEvents();
-        if (state().closingAll || !isLoaded()) return false;
+        if (state().closingAll || !isLoaded() || own != slides_) return false;
         waitUntil(clock, steps * pace);
     }
     return true;
@@ -170,11 +172,12 @@ void Notif::layOut() {
     }
 }
 
-void Notif::onCloseMark() {
+void Notif::dismiss() {
     SlideForm(*this, down);
+    if (!isLoaded() || isVisible()) return; // a newer text is shown
     state().notifOpen = false;
     desktop().events.processEvents();
-    unload();
+    if (!isVisible()) unload();
 }
 
 } // namespace velmoriax::shell

@@ -29,10 +29,12 @@ public:
     static constexpr int up = 0;
     static constexpr int down = 1;
 
-    /// Slides `Ventana`, which is this window, up or down. One that is shown goes down in either direction. Events run
-    /// at each step, so that a slide may begin inside another: both then move the one window, and each ends where it
-    /// has to.
+    /// Slides `Ventana`, which is this window, up or down. One that is shown goes down in either direction, and is
+    /// hidden there. Events are processed at each step, so that a slide may begin inside another, which then ends.
     void SlideForm(QWidget& Ventana, int Direction);
+
+    /// Slides down and unloads the window, unless a newer text is shown by then.
+    void dismiss();
 
 protected:
     void onUnload() override;
@@ -45,10 +47,10 @@ private:
     void slideUp(QWidget& Ventana);
     void slideDown(QWidget& Ventana);
     bool slide(QWidget& Ventana, int step, const std::function<int()>& goal);
-    void onCloseMark();
 
     std::unique_ptr<Ui::Notif> ui_;
-    int top_ = 0; ///< of the window, in pixels: what the desktop reports of it comes late
+    int slides_ = 0; ///< that have begun
+    int top_ = 0;    ///< of the window, in pixels: what the desktop reports of it comes late
 };
 
 } // namespace velmoriax::shell

@@ -28,10 +28,7 @@ void SlidingNotification::slideDown() {
 }
 
 void SlidingNotification::close() {
-    if (Notif* notif = window()) notif->SlideForm(*notif, Notif::down);
-    context_.state.notifOpen = false;
-    context_.desktop.events.processEvents();
-    context_.windows.unload(Notif::windowName);
+    if (Notif* notif = window()) notif->dismiss();
 }
 
 } // namespace velmoriax::shell

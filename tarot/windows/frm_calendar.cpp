@@ -68,6 +68,7 @@ void FrmCalendar::ownLoad() {
 
 void FrmCalendar::pick(QDate day) {
     const base::CivilDate date = widgets::civilDate(day);
+    pickedDate_ = date;
     sky::clearChange(tarot_.sky.anotherDaySign);
     ui_->TxtFecha->setText(widgets::qtText(chosenDateLine(date)));
     sumcartdia(date);
@@ -90,7 +91,8 @@ void FrmCalendar::showSignOf(base::CivilDate date) {
 
 void FrmCalendar::drawDateMoon(base::CivilDate date) {
     const sky::DateMoon moon = sky::drawDateMoon(sky::MoonEngine(desktop().events), date);
-    if (!isLoaded()) return; // events have run inside, the end of this window among them
+    // Events were processed inside: the window may be unloaded, or another day may be picked.
+    if (!isLoaded() || date != pickedDate_) return;
     if (!moon.pictureName.empty())
         ui_->ImgLuna->setPicture(widgets::loadChoice(
             desktop().files, sky::moonPicture(desktop().files, moon.pictureName, options().holders.hemisferio)));

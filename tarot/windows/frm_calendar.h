@@ -44,7 +44,8 @@ private:
 
     TarotContext& tarot_;
     std::unique_ptr<Ui::FrmCalendar> ui_;
-    std::int16_t dateCard_ = 0; ///< of the picked day; 0 before the first pick
+    std::int16_t dateCard_ = 0;  ///< of the picked day; 0 before the first pick
+    base::CivilDate pickedDate_; ///< of the latest pick
 };
 
 } // namespace velmoriax::tarot

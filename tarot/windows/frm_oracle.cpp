@@ -124,8 +124,7 @@ void Frmoracle::ownLoad() {
     showBacks();
     followState();
     ui_->TxtBas->setFocus();
-    showSwitch(startAmbient(sound_, ambience()));
-    followTimer();
+    changeSound([this] { return startAmbient(sound_, ambience()); });
 }
 
 void Frmoracle::ownCommand(std::string_view name) {
@@ -237,7 +236,17 @@ void Frmoracle::pickDate(QDate day) {
 // ---- the song
 
 void Frmoracle::switchSound(bool on) {
-    (on ? switchAmbientOn : switchAmbientOff)(sound_, ambience());
+    changeSound([this, on] {
+        (on ? switchAmbientOn : switchAmbientOff)(sound_, ambience());
+        return on;
+    });
+}
+
+/// Events are processed while a song is opened: the window may be unloaded meanwhile, or the switch be used again.
+void Frmoracle::changeSound(const std::function<bool()>& change) {
+    const int own = ++soundChanges_;
+    const bool on = change();
+    if (!isLoaded() || own != soundChanges_) return;
     showSwitch(on);
     followTimer();
 }

@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <array>
+#include <functional>
 #include <memory>
 
 class QDate;
@@ -67,6 +68,7 @@ private:
     void openText(const std::optional<std::string>& path);
 
     void switchSound(bool on);
+    void changeSound(const std::function<bool()>& change);
     void showSwitch(bool on);
     void followTimer();
 
@@ -79,6 +81,7 @@ private:
     ResultMenu results_;
     OracleState& state_; ///< the process's record; a reading begins anew with the window
     AmbientSound sound_;
+    int soundChanges_ = 0;
     QTimer timerMidi_;
 };
 

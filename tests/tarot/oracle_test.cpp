@@ -200,7 +200,7 @@ TEST_F(Ambient, StartsByTheTwoOptions) {
         options.setOption(shell::key::soundAmbient, wanted);
         options.setOption(shell::key::songAmbient, song);
         songs.starts.clear();
-        sound = {7, "", true};
+        sound = {.midiDeviceId = 7, .timerOn = true};
         EXPECT_EQ(startAmbient(sound, services), on) << why;
         EXPECT_EQ(sound.timerOn, on) << why;
         EXPECT_EQ(songs.starts, starts) << why;

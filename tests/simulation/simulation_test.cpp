@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The whole program on a desktop that chance drives, each seed in a process of its own. SIMULATION_SEEDS says how many
+// seeds (100), SIMULATION_FIRST the first one, SIMULATION_STEPS how many steps each (60).
+#include "apart.h"
+#include "simulation.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <iostream>
+
+namespace velmoriax::simulation {
+namespace {
+
+std::uint64_t numberOf(const char* variable, std::uint64_t otherwise) {
+    const char* value = std::getenv(variable);
+    return value ? std::strtoull(value, nullptr, 10) : otherwise;
+}
+
+Sequence sequenceOf(std::uint64_t seed) {
+    Dice dice(seed);
+    Sequence steps(numberOf("SIMULATION_STEPS", 60));
+    std::ranges::generate(steps, [&] { return dice.seed(); });
+    return steps;
+}
+
+TEST(Simulation, TheLawsHoldWhateverHappens) {
+    const std::uint64_t first = numberOf("SIMULATION_FIRST", 1), count = numberOf("SIMULATION_SEEDS", 100);
+    std::size_t actions = 0;
+    for (std::uint64_t seed = first; seed < first + count; ++seed) {
+        const Outcome outcome = runApart(sequenceOf(seed));
+        actions += outcome.trace.size();
+        if (outcome.wrong.empty()) continue;
+        const Outcome shortest = shortened(sequenceOf(seed), outcome);
+        ADD_FAILURE() << "seed " << seed << ": " << shortest.wrong << "\n" << shortest.traceText();
+        if (count == 100) return;
+    }
+    std::cout << count << " seeds, " << actions << " lines of what happened\n";
+}
+
+TEST(Simulation, TheSameSeedGivesTheSameRun) {
+    const Outcome once = runApart(sequenceOf(1)), again = runApart(sequenceOf(1));
+    EXPECT_GT(once.trace.size(), 30U);
+    EXPECT_EQ(once.traceText(), again.traceText());
+}
+
+} // namespace
+} // namespace velmoriax::simulation
