@@ -16,6 +16,7 @@ namespace velmoriax::shell {
 namespace {
 
 constexpr int textRefreshMs = 60000;
+constexpr int retryAfterLoadMs = 100;
 constexpr qsizetype longestTip = 128;
 constexpr qsizetype longestBalloon = 256;
 constexpr qsizetype longestTitle = 64;
@@ -173,7 +174,11 @@ void CtxSysTray::followTipText() {
 }
 
 void CtxSysTray::refreshTipText() {
-    if (!added_ || tooltipsOff() || context_.state.viewLoading) return;
+    if (!added_ || tooltipsOff()) return;
+    if (context_.state.viewLoading) {
+        QTimer::singleShot(retryAfterLoadMs, this, &CtxSysTray::refreshTipText);
+        return;
+    }
     const Subsystems& subsystems = context_.subsystems;
     const std::string text =
         panelText(subsystems.alerts.birthDate(), context_.desktop.clock.now(), subsystems.tipLines);

@@ -52,7 +52,7 @@ void ModuleWindow::addTrayIcon() {
 }
 
 void ModuleWindow::decideShowing() {
-    if (isRefresh()) return showNormalState();
+    if (isRefresh()) return showQuietly();
     unloadForReal_ = false;
     const std::string startMinimized = options().leerIniciarMinimizado();
     if (!startsHidden(module_, startMinimized)) return showNormalState();
@@ -76,13 +76,24 @@ bool ModuleWindow::isLoaded() const {
 
 void ModuleWindow::showNormalState() {
     if (!isLoaded()) return;
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
+    showNormal();
+    activateWindow();
+}
+
+/// What comes by itself leaves the keyboard to the program that the user works in.
+void ModuleWindow::showQuietly() {
+    if (!isVisible()) setAttribute(Qt::WA_ShowWithoutActivating);
+    showNormal();
+}
+
+void ModuleWindow::showNormal() {
     const bool leavesMaximised = isMaximized();
     const QRect normal = normalGeometry();
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
     if (leavesMaximised && isHidden()) setGeometry(normal); // a closed window would keep the size of the screen
     show();
     raise();
-    activateWindow();
 }
 
 void ModuleWindow::hideToTray() {

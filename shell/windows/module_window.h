@@ -81,6 +81,8 @@ protected:
 
 private:
     void decideShowing();
+    void showQuietly();
+    void showNormal();
     void onTrayButtonUp(int button);
     void onTrayDoubleClick();
     void releaseTip();

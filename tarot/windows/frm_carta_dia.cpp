@@ -24,6 +24,7 @@
 #include "widgets/topmost.h"
 #include "widgets/turned_picture.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 #include <array>
@@ -185,14 +186,24 @@ void FrmCartaDia::tickSecond() {
     const std::string clock = ui_->LblGetTime->text().toStdString();
     switch (midnightStep(clock, options().holders.muteCod, state().refreshingView)) {
     case MidnightStep::showNewDay:
+        hideAgainIsDue_ = false;
         return showNewDay();
     case MidnightStep::hideAgain:
-        hideToTray();
-        state().refreshingView = false;
-        return;
+        hideAgainIsDue_ = true;
+        break;
     case MidnightStep::none:
-        return;
+        break;
     }
+    if (hideAgainIsDue_) hideAgain();
+}
+
+/// Waits while a box of the window is open, which would be left alone on the screen.
+void FrmCartaDia::hideAgain() {
+    if (QApplication::activeModalWidget()) return;
+    hideAgainIsDue_ = false;
+    if (!state().refreshingView) return; // refreshed by hand meanwhile
+    hideToTray();
+    state().refreshingView = false;
 }
 
 void FrmCartaDia::showNewDay() {

@@ -55,6 +55,7 @@ private:
     void tickMinute();
     void copyTexts();
     void showNewDay();
+    void hideAgain();
     void refresh();
 
     void describeCard();
@@ -69,7 +70,8 @@ private:
     widgets::SecondTimer krono_;
     QTimer timerPlus_;
     MinuteCounts minutes_;
-    std::int16_t dayCard_ = 0; ///< of today; what a click on the card describes
+    bool hideAgainIsDue_ = false; ///< the midnight card has been shown for its time
+    std::int16_t dayCard_ = 0;    ///< of today; what a click on the card describes
 };
 
 } // namespace velmoriax::tarot

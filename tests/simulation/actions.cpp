@@ -177,10 +177,40 @@ std::string passTime(Simulation& simulation) {
     return "passed";
 }
 
-std::string passMidnight(Simulation& simulation) {
+void goToMidnight(Simulation& simulation) {
     const base::CivilTime time = base::civilTimeOf(simulation.clock.now());
     const std::chrono::seconds left(86400 - (time.hour * 3600 + time.minute * 60 + time.second));
     simulation.clock.setForward(left - 3s);
+}
+
+/// This platform activates each window that is shown: one that asks for no activation would get none elsewhere.
+void checkFocus(Simulation& simulation) {
+    const QWidget* active = QApplication::activeWindow();
+    const bool asked =
+        active && active != &simulation.otherProgram && !active->testAttribute(Qt::WA_ShowWithoutActivating);
+    if (simulation.broken.empty() && asked)
+        simulation.broken = "The user's other program keeps the keyboard. Found: " + active->objectName().toStdString();
+}
+
+std::string workElsewhere(Simulation& simulation) {
+    simulation.otherProgram.show();
+    simulation.otherProgram.activateWindow();
+    simulation.settle();
+    if (QApplication::activeWindow() != &simulation.otherProgram) return "the other program is not reached";
+    if (simulation.dice().oneIn(2)) goToMidnight(simulation);
+    simulation.undisturbed([&] {
+        for (int seconds = simulation.dice().oneIn(2) ? 40 : 1860; seconds > 0 && simulation.isRunning(); --seconds) {
+            simulation.pass(1s, 1s);
+            checkFocus(simulation);
+        }
+        restPointerOnIcon(simulation);
+        checkFocus(simulation);
+    });
+    return "worked elsewhere";
+}
+
+std::string passMidnight(Simulation& simulation) {
+    goToMidnight(simulation);
     simulation.note("midnight");
     simulation.pass(simulation.dice().oneIn(2) ? 8s : 40s, 1s);
     return "passed";
@@ -221,25 +251,12 @@ struct Action {
     std::string (*run)(Simulation&);
 };
 
-constexpr std::array<Action, 19> actions{{{30, false, clickControl},
-                                          {12, false, useMenuBar},
-                                          {6, false, type},
-                                          {8, false, pickDay},
-                                          {8, false, chooseFromList},
-                                          {8, false, closeWindow},
-                                          {4, false, minimise},
-                                          {8, false, moveOverPicture},
-                                          {3, false, leavePicture},
-                                          {10, true, clickIcon},
-                                          {3, true, openIconMenu},
-                                          {10, true, useTrayMenu},
-                                          {8, true, restOnIcon},
-                                          {5, true, leaveIcon},
-                                          {2, true, loseTray},
-                                          {3, true, movePanel},
-                                          {20, true, passTime},
-                                          {4, true, passMidnight},
-                                          {2, true, changeClock}}};
+constexpr std::array<Action, 20> actions{
+    {{30, false, clickControl},  {12, false, useMenuBar}, {6, false, type},          {8, false, pickDay},
+     {8, false, chooseFromList}, {8, false, closeWindow}, {4, false, minimise},      {8, false, moveOverPicture},
+     {3, false, leavePicture},   {10, true, clickIcon},   {3, true, openIconMenu},   {10, true, useTrayMenu},
+     {8, true, restOnIcon},      {5, true, leaveIcon},    {2, true, loseTray},       {3, true, movePanel},
+     {20, true, passTime},       {4, true, passMidnight}, {5, false, workElsewhere}, {2, true, changeClock}}};
 constexpr std::array<Action, 2> rareActions{{{4, true, changeFiles}, {1, true, endSession}}};
 
 } // namespace

@@ -146,6 +146,12 @@ Fault anotherDayShowsTheDayPickedLast(Simulation& simulation) {
     return unless(tipOf(window, "ImgLuna") == widgets::qtText(moon.tip), "the moon of another day");
 }
 
+Fault aPanelThatShowsTheTextHasIt(Simulation& simulation) {
+    if (simulation.tray.reportsPointer() || !simulation.program().modules.options.holders.tooltipsOn())
+        return std::nullopt;
+    return unless(!simulation.tray.tip.isEmpty(), "no text");
+}
+
 struct Law {
     const char* sentence;
     Fault (*fault)(Simulation&);
@@ -156,7 +162,7 @@ constexpr std::array<Law, 2> lawsOfEveryMoment{{
     {"The list of profiles is whole, and nobody is lost but by a deletion.", nobodyIsLost},
 }};
 
-constexpr std::array<Law, 9> lawsBetweenSteps{{
+constexpr std::array<Law, 10> lawsBetweenSteps{{
     {"One module is loaded.", oneModuleIsLoaded},
     {"A window that is not loaded is deleted.", whatIsNotLoadedIsGone},
     {"The icon is in the tray.", theIconIsInTheTray},
@@ -164,6 +170,7 @@ constexpr std::array<Law, 9> lawsBetweenSteps{{
     {"A flag is set only while its reason lasts.", noFlagIsLeft},
     {"The notification is shown exactly while its flag is set.", theNotificationIsShownWhenItsFlagSaysSo},
     {"The song plays only in an oracle that wants it.", theSongPlaysInAnOracleThatWantsIt},
+    {"A panel that shows the icon's text has the tip.", aPanelThatShowsTheTextHasIt},
     {"The card of the day is that of the date beside it.", theCardOfDayIsThatOfItsDateLine},
     {"Another Day shows card, sign and moon of the day picked last.", anotherDayShowsTheDayPickedLast},
 }};
@@ -188,7 +195,7 @@ std::optional<std::string> brokenLaw(Simulation& simulation) {
 
 std::optional<std::string> brokenAfterRest(Simulation& simulation) {
     simulation.pass(35s, 1s);
-    if (!simulation.isRunning()) return std::nullopt;
+    if (!simulation.isRunning() || !simulation.tray.reportsPointer()) return std::nullopt;
     restPointerOnIcon(simulation);
     QCursor::setPos(10, 10);
     simulation.pass(2s, 100ms);

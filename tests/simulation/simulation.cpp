@@ -36,7 +36,6 @@ Simulation::Simulation() {
     events.yield = [this] { yield(); };
     tray.place = iconPlace;
     taskBar.where = panelAtBottom;
-    tray.arrive();
 }
 
 Simulation::~Simulation() {
@@ -53,6 +52,8 @@ std::optional<std::string> Simulation::run(const Sequence& steps) {
 }
 
 std::optional<std::string> Simulation::runSteps(const Sequence& steps) {
+    const bool panelShowsTips = steps.front() % 3 == 0;
+    tray.arrive(panelShowsTips ? desktop::TrayKind::item : desktop::TrayKind::window);
     start();
     for (const Step each : steps) {
         step(each);
@@ -111,6 +112,12 @@ void Simulation::pass(std::chrono::milliseconds time, std::chrono::milliseconds 
         advanceTime(std::min(left, stride));
         QCoreApplication::processEvents();
     }
+}
+
+void Simulation::undisturbed(const std::function<void()>& work) {
+    const int before = std::exchange(depth_, deepest + 1);
+    work();
+    depth_ = before;
 }
 
 void Simulation::settle() {

@@ -60,6 +60,8 @@ public:
     void pass(std::chrono::milliseconds time, std::chrono::milliseconds stride);
     /// Handles all events that wait.
     void settle();
+    /// Nothing else happens meanwhile.
+    void undisturbed(const std::function<void()>& work);
 
     WallClock clock;
     test::FakeZone zone;
@@ -73,6 +75,7 @@ public:
     test::FakeRandom random;
     test::FakeTray tray;
     test::FakeTaskBar taskBar;
+    QWidget otherProgram; ///< the window of another program of the user
 
     bool filesFail = false;                     ///< a fault was injected, so that a fatal stop is allowed
     std::pair<QPointer<QObject>, QDate> picked; ///< in Another Day: its calendar, and the day picked last
