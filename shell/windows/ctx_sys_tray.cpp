@@ -147,7 +147,8 @@ void CtxSysTray::takeTipAway() {
 void CtxSysTray::showTrayBalloon() {
     const bool silent = context_.options.holders.silentTooltips();
     const std::string lines = balloonTextNow();
-    if (!added_) return; // events were processed inside, a change of module perhaps among them
+    // Events were processed inside: a change of module perhaps, or a click, over whose window no tip is to be shown.
+    if (!added_ || !watch_.wantsTicks(tooltips())) return;
     Popup(lines, programName, silent ? informationIcon | noSound : informationIcon);
 }
 

@@ -24,7 +24,8 @@ void SecondaryWindow::unload() {
 }
 
 void SecondaryWindow::showNormalState() {
-    if (!isLoaded()) return;
+    // A box of the load may be open, behind which the tray's menu asks for the window again.
+    if (!isLoaded() || windows().isLoading(*this)) return;
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
     show();
     raise();

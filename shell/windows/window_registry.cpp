@@ -13,6 +13,11 @@ namespace {
 
 constexpr int retryDeletionMs = 50;
 
+/// The entry of a window in a list of loaded windows.
+auto entryOf(auto& loaded, const ManagedWindow& window) {
+    return std::ranges::find_if(loaded, [&](const auto& each) { return each.window.get() == &window; });
+}
+
 } // namespace
 
 WindowRegistry::WindowRegistry(const platform::PendingEvents& events) : events_(events) {}
@@ -41,6 +46,8 @@ ManagedWindow& WindowRegistry::touch(std::string_view name) {
     ManagedWindow& window = *created;
     loaded_.push_back({std::string(name), dynamic_cast<ManagedModule*>(created.get()), std::move(created)});
     window.load();
+    const auto entry = entryOf(loaded_, window);
+    if (entry != loaded_.end()) entry->loading = false;
     return window;
 }
 
@@ -59,11 +66,16 @@ ManagedModule* WindowRegistry::loadedModule() const {
 }
 
 bool WindowRegistry::isLoaded(const ManagedWindow& window) const {
-    return std::ranges::any_of(loaded_, [&](const Loaded& each) { return each.window.get() == &window; });
+    return entryOf(loaded_, window) != loaded_.end();
+}
+
+bool WindowRegistry::isLoading(const ManagedWindow& window) const {
+    const auto entry = entryOf(loaded_, window);
+    return entry != loaded_.end() && entry->loading;
 }
 
 void WindowRegistry::release(ManagedWindow& window) {
-    const auto found = std::ranges::find_if(loaded_, [&](const Loaded& each) { return each.window.get() == &window; });
+    const auto found = entryOf(loaded_, window);
     if (found == loaded_.end()) return;
     for (QTimer* timer : window.widget().findChildren<QTimer*>()) timer->stop();
     released_.push_back(std::move(found->window));

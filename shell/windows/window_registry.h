@@ -72,6 +72,9 @@ public:
 
     bool isLoaded(const ManagedWindow& window) const;
 
+    /// True while the window's first load routine runs.
+    bool isLoading(const ManagedWindow& window) const;
+
     /// Takes a window off the list. It is deleted when control is back in the outermost event loop: a search or a slide
     /// that processes events may still be at work in it.
     void release(ManagedWindow& window);
@@ -84,6 +87,7 @@ private:
         std::string name;
         ManagedModule* module; ///< the window itself when it is one, else null
         std::unique_ptr<ManagedWindow> window;
+        bool loading = true;
     };
 
     void unloadAll(bool modules);

@@ -60,9 +60,9 @@ NameFields FrmName::typedNames() const {
 
 void FrmName::submit() {
     const NamesReading reading = readNames(typedNames(), deckInUse(desktop().files, options()), tarot_.state.cards);
-    for (int i = 0; i < reading.refusedFields; ++i)
+    for (int i = 0; i < reading.refusedFields && isLoaded(); ++i)
         desktop().boxes.show(platform::BoxIcon::warning, std::string(namesWarning), "Info");
-    if (!reading.drawn) return;
+    if (!reading.drawn || !isLoaded()) return; // another module may have been opened behind a box
     nameCard_ = reading.drawn->card;
     showCard(*ui_->ImgNombre, *reading.drawn, desktop().files);
     results_.keep(reading.record);

@@ -82,7 +82,7 @@ private:
     OracleState& state_; ///< the process's record; a reading begins anew with the window
     AmbientSound sound_;
     int soundChanges_ = 0;
-    QTimer timerMidi_;
+    QTimer timerMidi_{this};
 };
 
 } // namespace velmoriax::tarot

@@ -82,6 +82,17 @@ TEST_F(SecondaryWindowsTest, TheListsFollowTheKeyboardAndARefusedChoiceJumpsBack
     EXPECT_TRUE(control<QAbstractButton>(window, "OptionXP").isChecked());
 }
 
+TEST_F(SecondaryWindowsTest, TheOptionsAreNotShownBeforeTheyAreLoaded) {
+    options.setOption(key::estiloTooltips, "personal");
+    taskBar.where = platform::TaskBarPosition{0, 0, 1280, 30, platform::TaskBarPosition::topEdge};
+    boxes.whileOpen = [this] {
+        touch<FrmOptions>(); // by the menu of the tray, behind the box that refuses the personal tip
+        EXPECT_FALSE(windows.loaded<FrmOptions>()->isVisible());
+    };
+    EXPECT_TRUE(touch<FrmOptions>().isVisible());
+    EXPECT_EQ(boxes.shown.size(), 1U);
+}
+
 TEST_F(SecondaryWindowsTest, TheOptionsSayWhereThePanelShowsTheTip) {
     EXPECT_FALSE(shown(touch<FrmOptions>(), "LabelPanelTip"));
     windows.unload("FrmOptions");

@@ -170,6 +170,13 @@ TEST_F(TrayIcon, ShowsNoTipAfterAClickUntilThePointerHasLeft) {
     EXPECT_TRUE(tray.balloonShown);
 }
 
+TEST_F(TrayIcon, ShowsNoTipOverWhatAClickHasOpenedMeanwhile) {
+    addTo(TrayKind::window);
+    line.whileAsked = [this] { tray.click(); };
+    restOnIcon(5);
+    EXPECT_FALSE(tray.balloonShown);
+}
+
 // ---- The text that a panel shows by itself
 
 TEST_F(TrayIcon, RenewsTheTextOfAPanelEachMinuteWhileTipsAreOn) {

@@ -153,5 +153,14 @@ TEST(TurnedPicture, TurnsAnyFormatAndKeepsTheRim) {
     EXPECT_TRUE(widgets::turnedHalf({}, 4).isNull());
 }
 
+TEST_F(NamesWindow, SaysAndKeepsNothingMoreOnceItIsLeft) {
+    type(window, "Text1nom", "Ann");
+    for (const char* empty : {"Text2nom", "Text1ape", "Text2ape"}) type(window, empty, "7");
+    boxes.whileOpen = [this] { switcher.exit(); };
+    press(window, "ARButtonAcep");
+    EXPECT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(onShow(window, "ImgNombre"), test::ownBack());
+}
+
 } // namespace
 } // namespace velmoriax::tarot
