@@ -13,6 +13,12 @@ std::filesystem::path autostartFile(const std::string& name) {
     return configHome() / "autostart" / (name + ".desktop");
 }
 
+/// Some desktops look for the program before they turn "%%" into "%": there `env` is the program that they find.
+std::string commandFor(const std::string& executable) {
+    const bool hasPercent = executable.find('%') != std::string::npos;
+    return (hasPercent ? "env " : "") + quotedExecArgument(executable);
+}
+
 std::string entryFor(const std::string& name, const std::filesystem::path& executable) {
     return "[Desktop Entry]\n"
            "Type=Application\n"
@@ -21,7 +27,7 @@ std::string entryFor(const std::string& name, const std::filesystem::path& execu
            "\n"
            "Comment=Tarot, biorhythms and the sky of the day\n"
            "Exec=" +
-           quotedExecArgument(executable.string()) +
+           commandFor(executable.string()) +
            "\n"
            "Icon=velmoriax\n"
            "Terminal=false\n"

@@ -4,6 +4,7 @@
 #include "desktop/clock_seeded_random.h"
 #include "desktop/desktop_tray.h"
 #include "desktop/document_opener.h"
+#include "desktop/executable_path.h"
 #include "desktop/exit_signals.h"
 #include "desktop/fatal_box.h"
 #include "desktop/message_boxes.h"
@@ -19,7 +20,6 @@
 #include "widgets/input_rules.h"
 #include "widgets/look.h"
 
-#include <QFileInfo>
 #include <QSessionManager>
 
 #include <cstdlib>
@@ -50,8 +50,8 @@ QIcon programIcon() {
 }
 
 void refuseSecondInstance(platform::MessageBoxes& boxes) {
-    const QString executable = QFileInfo(QApplication::applicationFilePath()).fileName();
-    boxes.show(platform::BoxIcon::information, executable.toStdString() + ".EXE is already running!");
+    boxes.show(platform::BoxIcon::information,
+               desktop::executablePath().filename().string() + ".EXE is already running!");
 }
 
 /// The end of a session asks nothing, and the desktop shall not start the program again by itself.
@@ -75,8 +75,9 @@ int main(int argc, char** argv) {
     widgets::look::apply(application);
     const widgets::InputRules inputRules(application);
 
+    const std::filesystem::path executable = desktop::executablePath();
     desktop::QtMessageBoxes boxes;
-    desktop::DiskFiles files(desktop::programFolders(QApplication::applicationFilePath().toStdString()));
+    desktop::DiskFiles files(desktop::programFolders(executable));
     files.createApplicationDirectory();
     const desktop::SingleInstance instance(files.applicationDirectory());
     if (!instance.isFirst()) {
@@ -87,10 +88,10 @@ int main(int argc, char** argv) {
 
     desktop::SystemClock clock;
     desktop::SystemTimeZone zone;
-    const std::string pluginFolder = QApplication::applicationDirPath().toStdString() + "/plugins";
+    const std::string pluginFolder = executable.parent_path() / "plugins";
     desktop::AudioPlayer audio(files, pluginFolder);
     desktop::QtDocumentOpener opener(files);
-    desktop::XdgAutostart autostart(QApplication::applicationFilePath().toStdString());
+    desktop::XdgAutostart autostart(executable.string());
     desktop::QtPendingEvents events;
     desktop::ClockSeededRandom random;
     desktop::DesktopTray tray(icon);

@@ -24,6 +24,8 @@ TEST_F(XdgAutostartTest, WritesAnEntryThatStartsTheProgramAndErasesIt) {
         EXPECT_NE(text.find("\n" + std::string(line) + "\n"), std::string::npos) << line;
     ASSERT_TRUE(XdgAutostart("/moved/Velmoriax").write("Name")) << "a moved program writes its new path";
     EXPECT_NE(test::bytesOf(entry).find("Exec=\"/moved/Velmoriax\"\n"), std::string::npos);
+    ASSERT_TRUE(XdgAutostart("/opt/100%/Velmoriax").write("Name"));
+    EXPECT_NE(test::bytesOf(entry).find("Exec=env \"/opt/100%%/Velmoriax\"\n"), std::string::npos);
     EXPECT_FALSE(autostart.erase("Other"));
     EXPECT_TRUE(autostart.erase("Name"));
     EXPECT_FALSE(fs::exists(entry));
