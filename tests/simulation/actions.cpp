@@ -177,12 +177,6 @@ std::string passTime(Simulation& simulation) {
     return "passed";
 }
 
-void goToMidnight(Simulation& simulation) {
-    const base::CivilTime time = base::civilTimeOf(simulation.clock.now());
-    const std::chrono::seconds left(86400 - (time.hour * 3600 + time.minute * 60 + time.second));
-    simulation.clock.setForward(left - 3s);
-}
-
 /// This platform activates each window that is shown: one that asks for no activation would get none elsewhere.
 void checkFocus(Simulation& simulation) {
     const QWidget* active = QApplication::activeWindow();
@@ -197,7 +191,7 @@ std::string workElsewhere(Simulation& simulation) {
     simulation.otherProgram.activateWindow();
     simulation.settle();
     if (QApplication::activeWindow() != &simulation.otherProgram) return "the other program is not reached";
-    if (simulation.dice().oneIn(2)) goToMidnight(simulation);
+    if (simulation.dice().oneIn(2)) simulation.goToMidnight();
     simulation.undisturbed([&] {
         for (int seconds = simulation.dice().oneIn(2) ? 40 : 1860; seconds > 0 && simulation.isRunning(); --seconds) {
             simulation.pass(1s, 1s);
@@ -210,7 +204,7 @@ std::string workElsewhere(Simulation& simulation) {
 }
 
 std::string passMidnight(Simulation& simulation) {
-    goToMidnight(simulation);
+    simulation.goToMidnight();
     simulation.note("midnight");
     simulation.pass(simulation.dice().oneIn(2) ? 8s : 40s, 1s);
     return "passed";
@@ -226,7 +220,7 @@ std::string changeClock(Simulation& simulation) {
 // ---- Files, sound, and the end
 
 std::string changeFiles(Simulation& simulation) {
-    switch (simulation.dice().below(3)) {
+    switch (simulation.faultsMayCome ? simulation.dice().below(3) : 2) {
     case 0:
         simulation.files.readOnly = !simulation.files.readOnly;
         simulation.filesFail = true;

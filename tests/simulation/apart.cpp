@@ -7,9 +7,13 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
+#include <malloc.h>
 #include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
+
+extern "C" [[gnu::weak]] std::size_t __sanitizer_get_current_allocated_bytes();
 
 namespace velmoriax::simulation {
 
@@ -59,17 +63,25 @@ void prepareApplication() {
     static_cast<void>(once);
 }
 
-[[noreturn]] void runInChild(const Sequence& steps, int descriptor) {
-    Report report(descriptor);
-    current = &report;
-    Simulation simulation;
-    report.allowed = &simulation.filesFail;
+void runSteps(const Sequence& steps, Simulation& simulation, Report& report) {
     simulation.listener = [&report](const std::string& line) { report.line('T', line); };
-    simulation.fatalStop = [&report](const base::RunTimeError& error) { report.stop(error); };
     auto wrong = simulation.run(steps);
     if (!wrong) wrong = brokenAfterRest(simulation);
     if (wrong) report.line('W', *wrong);
-    std::_Exit(EXIT_SUCCESS);
+}
+
+std::size_t allocatedKilobytes() {
+    const std::size_t bytes =
+        __sanitizer_get_current_allocated_bytes ? __sanitizer_get_current_allocated_bytes() : mallinfo2().uordblks;
+    return bytes / 1024;
+}
+
+void runDays(int days, Simulation& simulation, Report& report) {
+    for (const int more : {days, 11 * days}) {
+        simulation.runDays(more, static_cast<Step>(more));
+        report.line('T', std::to_string(allocatedKilobytes()));
+        if (!simulation.broken.empty()) report.line('W', simulation.broken);
+    }
 }
 
 Outcome readReport(int descriptor, pid_t child) {
@@ -100,6 +112,26 @@ std::string kindOf(const std::string& wrong) {
     return wrong.substr(0, wrong.find(" Found: "));
 }
 
+Outcome inChild(const std::function<void(Simulation&, Report&)>& run) {
+    prepareApplication();
+    int ends[2];
+    if (::pipe(ends) != 0) std::abort();
+    std::fflush(nullptr);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::close(ends[0]);
+        Report report(ends[1]);
+        current = &report;
+        Simulation simulation;
+        report.allowed = &simulation.filesFail;
+        simulation.fatalStop = [&report](const base::RunTimeError& error) { report.stop(error); };
+        run(simulation, report);
+        std::_Exit(EXIT_SUCCESS);
+    }
+    ::close(ends[1]);
+    return readReport(ends[0], child);
+}
+
 } // namespace
 
 std::string Outcome::traceText() const {
@@ -109,17 +141,14 @@ std::string Outcome::traceText() const {
 }
 
 Outcome runApart(const Sequence& steps) {
-    prepareApplication();
-    int ends[2];
-    if (::pipe(ends) != 0) std::abort();
-    std::fflush(nullptr);
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::close(ends[0]);
-        runInChild(steps, ends[1]);
-    }
-    ::close(ends[1]);
-    return readReport(ends[0], child);
+    return inChild([&](Simulation& simulation, Report& report) { runSteps(steps, simulation, report); });
+}
+
+std::vector<std::size_t> allocatedAfter(int days) {
+    const Outcome outcome = inChild([&](Simulation& simulation, Report& report) { runDays(days, simulation, report); });
+    std::vector<std::size_t> kilobytes;
+    for (const std::string& line : outcome.trace) kilobytes.push_back(std::stoul(line));
+    return outcome.wrong.empty() ? kilobytes : std::vector<std::size_t>{};
 }
 
 Outcome shortened(Sequence steps, Outcome outcome) {

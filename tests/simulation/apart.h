@@ -15,6 +15,9 @@ struct Outcome {
 /// Runs a sequence in a process of its own, so that a crash is an outcome as well.
 Outcome runApart(const Sequence& steps);
 
+/// The kilobytes that are allocated after so many days, and after twelve times as many; empty when a law was broken.
+std::vector<std::size_t> allocatedAfter(int days);
+
 /// The outcome of the shortest sequence found that goes wrong in the same way, by leaving out steps.
 Outcome shortened(Sequence steps, Outcome outcome);
 

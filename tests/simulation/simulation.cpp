@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QPixmapCache>
 
 namespace velmoriax::simulation {
 
@@ -15,6 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr const char* somePeople = "Person0001,March/15/1980,7:45\r\nPerson0002,January/1/1980,12:30\r\n";
 constexpr int deepest = 2;           ///< actions inside one another
 constexpr int mostActionsInside = 4; ///< in one step
 constexpr QRect iconPlace(700, 772, 24, 24);
@@ -30,7 +32,7 @@ Program::Program(shell::DesktopServices& services) :
 Simulation::Simulation() {
     files.contents = test::suppliedFiles(files.directory);
     files.at("\\bio.dat") = "15,3,1980\r\n";
-    files.at("\\perfiles.txt") = "Person0001,March/15/1980,7:45\r\nPerson0002,January/1/1980,12:30\r\n";
+    files.at("\\perfiles.txt") = somePeople;
     boxes.dice = &dice_;
     boxes.events = &events;
     events.yield = [this] { yield(); };
@@ -61,6 +63,42 @@ std::optional<std::string> Simulation::runSteps(const Sequence& steps) {
         if (!broken.empty()) return broken;
     }
     return std::nullopt;
+}
+
+void Simulation::runDays(int days, Step seed) {
+    constexpr int stepsOfDay = 12;
+    faultsMayCome = false;
+    Dice dice(seed);
+    if (!program_) {
+        tray.arrive(desktop::TrayKind::window);
+        start();
+    }
+    for (int day = 0; day < days; ++day) {
+        for (int i = 0; i < stepsOfDay; ++i) step(dice.seed());
+        goToMidnight();
+        pass(40s, 1s);
+        settle();
+        forgetWhatFakesNoted();
+    }
+    program_->modules.switcher.handOver("FrmCartaDia"); // memory is measured with the same window
+    settle();
+    QPixmapCache::clear();
+}
+
+void Simulation::goToMidnight() {
+    const base::CivilTime time = base::civilTimeOf(clock.now());
+    clock.setForward(86400s - 3s - std::chrono::seconds(time.hour * 3600 + time.minute * 60 + time.second));
+}
+
+void Simulation::forgetWhatFakesNoted() {
+    sounds.played.clear();
+    opener.opened.clear();
+    tray.balloons.clear();
+    std::erase_if(files.contents, [](const auto& file) { return file.first.starts_with("/tmp/"); });
+    files.at("\\perfiles.txt") = somePeople;
+    people = 2;
+    for (const char* log : {"resNumbers", "resNames", "resOracle"})
+        files.at(std::string("\\logs\\") + log + ".log").clear();
 }
 
 void Simulation::start() {
@@ -103,8 +141,8 @@ void Simulation::yield() {
 
 void Simulation::note(const std::string& line) {
     const auto seconds = std::chrono::duration_cast<std::chrono::milliseconds>(simulatedTime()).count();
-    trace_.push_back(std::to_string(seconds) + " ms " + std::string(static_cast<std::size_t>(2 * depth_), ' ') + line);
-    if (listener) listener(trace_.back());
+    const std::string indent(static_cast<std::size_t>(2 * depth_), ' ');
+    if (listener) listener(std::to_string(seconds) + " ms " + indent + line);
 }
 
 void Simulation::pass(std::chrono::milliseconds time, std::chrono::milliseconds stride) {

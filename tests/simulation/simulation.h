@@ -40,11 +40,11 @@ public:
     /// Runs the steps, and stops at the first law that is broken. Returns what is wrong.
     std::optional<std::string> run(const Sequence& steps);
 
-    /// What happened, a line each: the same for the same steps.
-    const std::vector<std::string>& trace() const { return trace_; }
+    /// Lets days pass, each with some steps by chance; nothing fails in them.
+    void runDays(int days, Step seed);
 
-    std::function<void(const base::RunTimeError&)> fatalStop;
-    std::function<void(const std::string&)> listener; ///< is told each line of the trace
+    std::function<void(const base::RunTimeError&)> fatalStop; ///< does not return
+    std::function<void(const std::string&)> listener;         ///< is told what happens, the same for the same steps
 
     // What the actions and the laws see.
 
@@ -60,6 +60,8 @@ public:
     void pass(std::chrono::milliseconds time, std::chrono::milliseconds stride);
     /// Handles all events that wait.
     void settle();
+    /// Three seconds before the next midnight.
+    void goToMidnight();
     /// Nothing else happens meanwhile.
     void undisturbed(const std::function<void()>& work);
 
@@ -77,6 +79,7 @@ public:
     test::FakeTaskBar taskBar;
     QWidget otherProgram; ///< the window of another program of the user
 
+    bool faultsMayCome = true;
     bool filesFail = false;                     ///< a fault was injected, so that a fatal stop is allowed
     std::pair<QPointer<QObject>, QDate> picked; ///< in Another Day: its calendar, and the day picked last
     std::ptrdiff_t people = 2;                  ///< in the list when it was checked last
@@ -85,6 +88,7 @@ public:
     std::string broken;                         ///< the first law that was broken at a point inside a step
 
 private:
+    void forgetWhatFakesNoted();
     std::optional<std::string> runSteps(const Sequence& steps);
     void start();
     void end();
@@ -107,7 +111,6 @@ private:
                                      VELMORIAX_PLUGIN_DIR};
     std::unique_ptr<Program> program_;
     Dice dice_{0};
-    std::vector<std::string> trace_;
     int depth_ = 0;
     int points_ = 0; ///< at which the program yielded in this step
 };

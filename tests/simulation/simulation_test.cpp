@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The whole program on a desktop that chance drives, each seed in a process of its own. SIMULATION_SEEDS says how many
-// seeds (100), SIMULATION_FIRST the first one, SIMULATION_STEPS how many steps each (60).
+// seeds (100), SIMULATION_FIRST the first one, SIMULATION_STEPS how many steps each (60),
+// SIMULATION_DAYS over how many days the memory is watched (60).
 #include "apart.h"
 #include "simulation.h"
 
@@ -42,6 +43,16 @@ TEST(Simulation, TheSameSeedGivesTheSameRun) {
     const Outcome once = runApart(sequenceOf(1)), again = runApart(sequenceOf(1));
     EXPECT_GT(once.trace.size(), 30U);
     EXPECT_EQ(once.traceText(), again.traceText());
+}
+
+/// The toolkit keeps drawn icons, glyphs and names that it has met; beyond them nothing is kept.
+TEST(Simulation, MemoryDoesNotGrowWithTheDays) {
+    constexpr std::size_t keptByToolkit = 1024, keptOfADay = 1; // kilobytes
+    const std::size_t days = numberOf("SIMULATION_DAYS", 60);
+    const auto allocated = allocatedAfter(static_cast<int>(days / 12));
+    ASSERT_EQ(allocated.size(), 2U);
+    std::cout << allocated[0] << " KB after " << days / 12 << " days, " << allocated[1] << " KB after " << days << "\n";
+    EXPECT_LT(allocated[1], allocated[0] + keptByToolkit + keptOfADay * days);
 }
 
 } // namespace
