@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/midi_length.h"
 #include "desktop/sound_device.h"
 
 #include <SDL.h>
@@ -26,6 +27,10 @@ constexpr auto silenceBeforeClosing = 1s;
 /// A song whose tracks are damaged ends after a buffer or two. If it counted as played it would be started again for
 /// ever.
 constexpr auto shortestSong = 400ms;
+
+/// The last notes of a song may fade for so long before it starts again. The synthesizer would go on for seconds, until
+/// nothing reverberates any more.
+constexpr auto release = 250ms;
 
 bool isMidi(const std::string& bytes) {
     return bytes.starts_with("MThd") && bytes.find("MTrk") != std::string::npos;
@@ -107,6 +112,7 @@ private:
     int songNumber_ = 0;
     std::string songBytes_; ///< kept, since closing the device unloads the song
     Mix_Music* music_ = nullptr;
+    std::optional<std::chrono::microseconds> songLength_; ///< nothing when it is not known
     bool songStarted_ = false;
     Clock::time_point songStart_;
 };
@@ -169,6 +175,7 @@ bool SdlSoundDevice::takeSong(int number, std::string bytes) {
     dropSong();
     if (!isMidi(bytes)) return false;
     songNumber_ = number;
+    songLength_ = midiLength(bytes);
     songBytes_ = std::move(bytes);
     return true;
 }
@@ -205,9 +212,12 @@ void SdlSoundDevice::dropSong() {
 }
 
 std::optional<SoundDevice::SongEnd> SdlSoundDevice::songEnd() {
-    if (!songStarted_ || Mix_PlayingMusic() != 0) return std::nullopt;
-    songStarted_ = false;
-    return SongEnd{songNumber_, Clock::now() - songStart_ > shortestSong};
+    if (!songStarted_) return std::nullopt;
+    const auto played = Clock::now() - songStart_;
+    const bool lastNotePlayed = songLength_ && played > *songLength_ + release;
+    if (Mix_PlayingMusic() != 0 && !lastNotePlayed) return std::nullopt;
+    stopSong();
+    return SongEnd{songNumber_, played > shortestSong};
 }
 
 } // namespace

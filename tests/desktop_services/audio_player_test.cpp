@@ -48,6 +48,19 @@ struct SoundOnDisk : test::DiskFixture {
             loudest = std::max(loudest, std::abs(static_cast<int>(sample)));
         return loudest;
     }
+    /// The longest time without a sound between the first and the last one.
+    std::chrono::milliseconds longestSilence() const {
+        std::ifstream file(samples, std::ios::binary);
+        std::optional<int> lastHeard;
+        int longest = 0, count = 0;
+        for (std::int16_t sample = 0; file.read(reinterpret_cast<char*>(&sample), sizeof sample); ++count) {
+            if (std::abs(static_cast<int>(sample)) <= 32) continue;
+            longest = std::max(longest, count - lastHeard.value_or(count));
+            lastHeard = count;
+        }
+        constexpr int samplesOfMs = 2 * 44100 / 1000;
+        return std::chrono::milliseconds(longest / samplesOfMs);
+    }
     bool soundsAfter(std::uintmax_t start) const { return loudness(start) > 32; }
     static bool becomesTrue(const std::function<bool()>& condition) {
         for (const auto end = Clock::now() + 20s; Clock::now() < end; std::this_thread::sleep_for(20ms))
@@ -125,6 +138,20 @@ TEST_F(SoundOnDisk, PlaysASongAgainAfterItsEnd) {
         ASSERT_TRUE(becomesTrue([&] { return player.mode(device) == Mode::stopped; }));
         ASSERT_TRUE(fallsSilent());
     }
+}
+
+/// The listener of the samples: a song that is started again as soon as it has ended leaves no gap that is heard.
+TEST_F(SoundOnDisk, PlaysASongRoundAndRoundWithoutAGap) {
+    AudioPlayer player(files_, VELMORIAX_PLUGIN_DIR);
+    const int device = player.open(song("short.mid", shortSong()));
+    for (int turn = 0; turn < 2; ++turn) {
+        player.rewind(device);
+        player.play(device);
+        ASSERT_TRUE(becomesTrue([&] { return player.mode(device) == Mode::stopped; }));
+        if (turn == 0) std::this_thread::sleep_for(500ms); // the window asks twice a second
+    }
+    player.close(device);
+    EXPECT_LT(longestSilence(), 700ms);
 }
 
 TEST_F(SoundOnDisk, StaysSilentAndQuickWithoutASong) {
