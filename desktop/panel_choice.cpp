@@ -31,6 +31,31 @@ std::vector<Panel> panelsAround(const QRect& screen, const QRect& work) {
     return panels;
 }
 
+/// The band along the nearest edge that has the icon in its middle; nothing for an icon in the midst of the screen.
+std::optional<Panel> panelAroundIcon(const QRect& screen, const QRect& icon) {
+    const QPoint middle = icon.center();
+    const std::array<std::pair<Edge, int>, 4> distances{{{Edge::bottomEdge, screen.bottom() - middle.y()},
+                                                         {Edge::topEdge, middle.y() - screen.top()},
+                                                         {Edge::leftEdge, middle.x() - screen.left()},
+                                                         {Edge::rightEdge, screen.right() - middle.x()}}};
+    const auto [edge, distance] = *std::ranges::min_element(distances, {}, &std::pair<Edge, int>::second);
+    constexpr int thickest = 128;
+    const int thickness = 2 * distance + 1;
+    if (icon.isEmpty() || !screen.contains(middle) || thickness > thickest) return std::nullopt;
+    const QSize lying(screen.width(), thickness), upright(thickness, screen.height());
+    switch (edge) {
+    case Edge::bottomEdge:
+        return Panel{edge, {{screen.left(), screen.bottom() - thickness + 1}, lying}};
+    case Edge::topEdge:
+        return Panel{edge, {screen.topLeft(), lying}};
+    case Edge::leftEdge:
+        return Panel{edge, {screen.topLeft(), upright}};
+    case Edge::rightEdge:
+        break;
+    }
+    return Panel{edge, {{screen.right() - thickness + 1, screen.top()}, upright}};
+}
+
 /// Cuts a band off the edge of the area that it runs along.
 QRect withoutBand(QRect area, const QRect& band) {
     const QRect cut = area & band;
@@ -72,11 +97,13 @@ QRect workArea(const QRect& screen, double ratio, const std::vector<QRect>& band
 }
 
 std::optional<platform::TaskBarPosition> panelOf(const QRect& screen, const QRect& work, const QRect& icon) {
-    const std::vector<Panel> panels = panelsAround(screen, work);
+    std::vector<Panel> panels = panelsAround(screen, work);
+    const auto holdsIcon = [&](const Panel& panel) { return !icon.isEmpty() && panel.place.contains(icon.center()); };
+    const auto around = panelAroundIcon(screen, icon);
+    if (around && std::ranges::none_of(panels, holdsIcon)) panels.push_back(*around);
     if (panels.empty()) return std::nullopt;
     const auto rank = [&](const Panel& panel) {
-        const bool holdsIcon = !icon.isEmpty() && panel.place.contains(icon.center());
-        return std::tuple(holdsIcon, panel.edge == Edge::bottomEdge, panel.thickness());
+        return std::tuple(holdsIcon(panel), panel.edge == Edge::bottomEdge, panel.thickness());
     };
     const Panel& panel = *std::ranges::max_element(panels, {}, rank);
     const QRect& place = panel.place;

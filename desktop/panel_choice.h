@@ -21,7 +21,8 @@ QRect workArea(const QRect& screen, double ratio, const std::vector<QRect>& band
 
 /// The panel of a screen, of which `work` is what panels leave. With panels at several edges it is the one that holds
 /// the tray icon; where the icon's place is not known (an empty rectangle), the one at the bottom, then the thickest.
-/// Nothing when no panel reserves a part of the screen.
+/// An icon near an edge where no panel reserves anything is in a panel that hides by itself or lies over the windows:
+/// its band is as thick as puts the icon into its middle. Nothing when no panel is known.
 std::optional<platform::TaskBarPosition> panelOf(const QRect& screen, const QRect& work, const QRect& icon);
 
 } // namespace velmoriax::desktop

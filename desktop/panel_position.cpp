@@ -60,9 +60,11 @@ QRect workAreaOf(const QScreen& screen) {
 }
 
 std::optional<platform::TaskBarPosition> PanelPosition::position() const {
-    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QRect icon = tray_.geometry();
+    const QScreen* screen = icon.isEmpty() ? nullptr : QGuiApplication::screenAt(icon.center());
+    if (!screen) screen = QGuiApplication::primaryScreen();
     if (!screen) return std::nullopt;
-    return panelOf(screen->geometry(), workAreaOf(*screen), tray_.geometry());
+    return panelOf(screen->geometry(), workAreaOf(*screen), icon);
 }
 
 } // namespace velmoriax::desktop

@@ -16,7 +16,8 @@ class Tray;
 /// what each panel reserves.
 QRect workAreaOf(const QScreen& screen);
 
-/// The panel of the primary screen, as panelOf() chooses it.
+/// The panel of the screen with the icon, or of the primary screen where the icon's place is not known, as panelOf()
+/// chooses it.
 class PanelPosition : public platform::TaskBar {
 public:
     explicit PanelPosition(const Tray& tray) : tray_(tray) {}

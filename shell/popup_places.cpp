@@ -54,8 +54,18 @@ int notifHiddenTop(const ScreenMeasures& screen, int windowHeight) {
     return screen.top + screen.height + windowHeight;
 }
 
+ScreenMeasures withTaskBar(ScreenMeasures screen, const std::optional<platform::TaskBarPosition>& taskBar) {
+    const int bottom = screen.top + screen.height;
+    const bool atBottom = taskBar && taskBar->edge == platform::TaskBarPosition::bottomEdge &&
+                          taskBar->bottom == bottom && taskBar->left < screen.left + screen.width &&
+                          taskBar->right > screen.left;
+    if (atBottom) screen.panelBottom = std::max(screen.panelBottom, bottom - taskBar->top);
+    return screen;
+}
+
 bool personalTipFits(const ScreenMeasures& screen, int pointerY, bool taskBarAtBottom) {
-    const double limit = screen.height * twipsPerPixel * 95.0 / 100.0;
+    const double panelTop = (screen.height - screen.panelBottom) * twipsPerPixel;
+    const double limit = std::min(screen.height * twipsPerPixel * 95.0 / 100.0, panelTop - 1);
     return !taskBarAtBottom || limit < (pointerY - screen.top) * twipsPerPixel;
 }
 

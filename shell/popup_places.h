@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/task_bar.h"
+
 #include <cstddef>
+#include <optional>
 
 /// Sizes and places of the two small windows over the panel. The rules are in twips, 15 to a pixel; what comes back is
 /// in pixels.
@@ -43,8 +46,11 @@ int notifTop(const ScreenMeasures& screen, int windowHeight);
 /// Where a slide down ends: a whole window height below the edge of the screen.
 int notifHiddenTop(const ScreenMeasures& screen, int windowHeight);
 
+/// The measures with the breadth of a panel at the bottom of the screen, which may reserve nothing of it.
+ScreenMeasures withTaskBar(ScreenMeasures screen, const std::optional<platform::TaskBarPosition>& taskBar);
+
 /// False when the panel is at the bottom and the pointer, at `pointerY` on the desktop, is above the lowest 5 per cent
-/// of the screen.
+/// of the screen and above the panel, which may be thicker than that.
 bool personalTipFits(const ScreenMeasures& screen, int pointerY, bool taskBarAtBottom);
 
 /// Centred over the pointer, and moved aside as far as it takes to be seen whole, since the icon is often near a

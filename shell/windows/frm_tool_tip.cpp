@@ -54,7 +54,7 @@ FrmToolTip::~FrmToolTip() = default;
 void FrmToolTip::load() {
     if (state().viewLoading || !state().trayBusy) return;
     const QPoint pointer = QCursor::pos();
-    const ScreenMeasures screen = measuresOf(screenUnder(pointer));
+    const ScreenMeasures screen = withTaskBar(measuresOf(screenUnder(pointer)), desktop().taskBar.position());
     if (!personalTipFits(screen, pointer.y(), state().taskBarAtBottom)) return;
     if (!state().tipShown) {
         fill();

@@ -170,6 +170,9 @@ TEST(PopupPlaces, PersonalTipStandsOverTheLowestTwentieth) {
     EXPECT_TRUE(personalTipFits(screen, 960, true));
     EXPECT_FALSE(personalTipFits(screen, 950, true)) << "the bound itself is too high";
     EXPECT_FALSE(personalTipFits(screen, 900, true));
+    const auto bar = platform::TaskBarPosition{0, 910, 1280, 1000, platform::TaskBarPosition::bottomEdge};
+    EXPECT_TRUE(personalTipFits(withTaskBar(screen, bar), 911, true)) << "on a thick panel that hides by itself";
+    EXPECT_FALSE(personalTipFits(withTaskBar(screen, bar), 909, true));
     EXPECT_TRUE(personalTipFits(screen, 900, false)) << "a panel elsewhere does not stop it";
 
     EXPECT_EQ(personalTipTop(screen, 104), 857) << "2150 twips are 143 pixels";
