@@ -68,7 +68,7 @@ QSize BioPlot::sizeHint() const {
 
 QSize BioPlot::minimumSizeHint() const {
     const QFontMetrics metrics(font());
-    return {metrics.averageCharWidth() * 60, metrics.height() * 10};
+    return {metrics.averageCharWidth() * 60, metrics.height() * 13};
 }
 
 void BioPlot::paintEvent(QPaintEvent*) {

@@ -11,6 +11,8 @@ namespace {
 
 constexpr double highest = 1.12; ///< of the value axis; above 1, so that a line at 1 is drawn with its whole width
 constexpr double rowCount = chartRowCount;
+constexpr int labelGap = 2;      ///< pixels between the labels of two rows
+constexpr int legendSpacing = 6; ///< pixels between the columns of the legend
 
 QColor faint(QColor colour, int alpha) {
     colour.setAlpha(alpha);
@@ -42,10 +44,16 @@ private:
     void markReading();
     void addSeries();
     void showSeriesCount(std::size_t count);
+    void resizeEvent(QResizeEvent* event) override;
+    void fitTexts();
+    void labelRows();
+    void arrangeLegend();
+    int widestLegendItem() const;
 
     QSharedPointer<QCPAxisTickerText> rows_{new QCPAxisTickerText};
     std::array<CycleGraph*, chartSeriesCount> series_{};
     std::size_t shown_ = 0;
+    std::array<int, chartRowCount> labels_{}; ///< of the rows
 };
 
 Drawing::Drawing(QWidget* parent) : QCustomPlot(parent) {
@@ -123,13 +131,58 @@ void Drawing::showSeriesCount(std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) series_[i]->addToLegend();
 }
 
+void Drawing::resizeEvent(QResizeEvent* event) {
+    QCustomPlot::resizeEvent(event);
+    fitTexts();
+}
+
+/// With large letters some texts are left out or arranged anew, so that none runs into the next.
+void Drawing::fitTexts() {
+    labelRows();
+    arrangeLegend();
+    replot(QCustomPlot::rpQueuedReplot);
+}
+
+/// The row of the reading always has its label, and the others at equal distances from it.
+void Drawing::labelRows() {
+    const QFontMetrics metrics(xAxis->tickLabelFont());
+    const double rowWidth = std::max(1.0, xAxis->coordToPixel(2) - xAxis->coordToPixel(1));
+    const int needed = metrics.horizontalAdvance(QStringLiteral("30")) + labelGap;
+    const int step = std::max(1, static_cast<int>(std::ceil(needed / rowWidth)));
+    rows_->clear();
+    for (int row = 0; row < static_cast<int>(labels_.size()); ++row) {
+        const bool labelled = (row - static_cast<int>(readingRow)) % step == 0;
+        rows_->addTick(row + 1, labelled ? QString::number(labels_[static_cast<std::size_t>(row)]) : QString());
+    }
+}
+
+int Drawing::widestLegendItem() const {
+    int widest = 0;
+    for (int i = 0; i < legend->itemCount(); ++i)
+        widest = std::max(widest, legend->item(i)->minimumOuterSizeHint().width());
+    return widest;
+}
+
+/// One cycle a column, in smaller letters where they do not fit, or else two columns.
+void Drawing::arrangeLegend() {
+    const int columnWidth = width() / static_cast<int>(cycleCount) - legendSpacing;
+    QFont letters = font();
+    for (const double share : {1.0, 0.9, 0.8, 0.7}) {
+        letters.setPointSizeF(font().pointSizeF() * share);
+        legend->setFont(letters);
+        if (widestLegendItem() <= columnWidth) break;
+    }
+    const int columns = widestLegendItem() <= columnWidth ? cycleCount : 2;
+    if (columns == legend->wrap()) return;
+    legend->setWrap(columns);
+    legend->setFillOrder(QCPLegend::foColumnsFirst, true);
+}
+
 void Drawing::show(const ChartData& chart) {
     showSeriesCount(chart.seriesCount);
-    rows_->clear();
-    for (std::size_t row = 0; row < chartRowCount; ++row)
-        rows_->addTick(static_cast<double>(row + 1), QString::number(chart.rowLabels[row]));
+    std::ranges::copy(chart.rowLabels, labels_.begin());
     for (std::size_t i = 0; i < chart.seriesCount; ++i) series_[i]->showColumnOf(chart);
-    replot(QCustomPlot::rpQueuedReplot);
+    fitTexts();
 }
 
 } // namespace

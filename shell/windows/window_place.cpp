@@ -67,7 +67,7 @@ static void takePlace(QWidget& window, const QRect& wanted) {
 
 void centreOver(QWidget& window, const QRect& place) {
     if (!window.testAttribute(Qt::WA_Resized))
-        window.adjustSize(); // else it has not taken the size of its controls yet
+        window.resize(window.sizeHint()); // else it has not taken the size of its controls yet
     takePlace(window, {place.center() - window.rect().center(), window.size()});
 }
 

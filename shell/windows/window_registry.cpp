@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/windows/window_registry.h"
 
+#include "widgets/scrolling_content.h"
+
 #include <QTimer>
 #include <QWidget>
 
@@ -40,10 +42,17 @@ void WindowRegistry::addSecondary(std::string_view name, Factory factory) {
     factories_.insert_or_assign(std::string(name), std::move(factory));
 }
 
+std::vector<std::string> WindowRegistry::names() const {
+    std::vector<std::string> names;
+    for (const auto& [name, factory] : factories_) names.push_back(name);
+    return names;
+}
+
 ManagedWindow& WindowRegistry::touch(std::string_view name) {
     if (ManagedWindow* window = loaded(name)) return *window;
     auto created = factories_.find(name)->second();
     ManagedWindow& window = *created;
+    if (window.widget().windowType() == Qt::Window) widgets::makeScrollable(window.widget());
     loaded_.push_back({std::string(name), dynamic_cast<ManagedModule*>(created.get()), std::move(created)});
     window.load();
     const auto entry = entryOf(loaded_, window);

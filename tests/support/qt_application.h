@@ -15,7 +15,9 @@ inline QApplication& application() {
     static int argc = 1;
     static char name[] = "test";
     static char* argv[] = {name, nullptr};
-    static const bool offscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A test may have set it with the sizes of the screens.
+    static const bool offscreen = qEnvironmentVariable("QT_QPA_PLATFORM").startsWith(QLatin1String("offscreen")) ||
+                                  qputenv("QT_QPA_PLATFORM", "offscreen");
     static QApplication* const instance = offscreen ? new QApplication(argc, argv) : nullptr;
     return *instance;
 }
