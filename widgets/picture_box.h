@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QPainterPath>
 #include <QPixmap>
 #include <QWidget>
 
@@ -37,7 +38,7 @@ public:
     /// Rounds the corners by a share of the width: 0.045 for a card.
     void setCornerRadius(double shareOfWidth);
 
-    /// A picture that answers clicks takes the keyboard focus and shows a hand.
+    /// A picture that answers clicks takes the keyboard focus, and the pointer on it is a hand.
     void setClickable(bool clickable);
 
     QSize sizeHint() const override;
@@ -46,14 +47,19 @@ public:
     /// Where the picture itself is within the box.
     QRect pictureRect() const;
 
+    /// Whether a point of the box is on the drawn picture: what is beside it in a wide or high box, and outside its
+    /// round corners, answers nothing.
+    bool isOnPicture(QPoint position) const;
+
 Q_SIGNALS:
     void clicked();
     void pressed();
     void released();
-    void mouseMoved(QPoint position);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -62,6 +68,8 @@ protected:
 
 private:
     void takeSize(QSize size);
+    void followPointer(QPoint position);
+    QPainterPath outlineIn(const QRectF& place) const;
     const QPixmap& scaledPicture();
 
     mutable QImage picture_;
