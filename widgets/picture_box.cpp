@@ -2,6 +2,7 @@
 #include "widgets/picture_box.h"
 
 #include "base/run_time_error.h"
+#include "widgets/accessible_role.h"
 
 #include <QBuffer>
 #include <QEnterEvent>
@@ -47,6 +48,7 @@ bool isClickKey(const QKeyEvent& event) {
 }
 
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
+    setAccessibleRole(*this, QAccessible::Graphic);
     setMouseTracking(true);
     setMinimumSize(24, 24);
 }

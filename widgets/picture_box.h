@@ -32,7 +32,8 @@ public:
     /// the rest of a window's load. Throws as `loadPicture` does when the file is missing or begins like no picture.
     void setPictureFile(const platform::Files& files, const std::string& path);
 
-    /// The tip of the picture, which is its accessible name as well.
+    /// The tip of the picture, which is its accessible name as well when it tells what is shown. A tip that tells what
+    /// a click does is followed by `setAccessibleName`.
     void setTip(const QString& tip);
 
     /// Rounds the corners by a share of the width: 0.045 for a card.

@@ -40,6 +40,12 @@ void WindowRegistry::addSecondary(std::string_view name, Factory factory) {
     factories_.insert_or_assign(std::string(name), std::move(factory));
 }
 
+std::vector<std::string> WindowRegistry::names() const {
+    std::vector<std::string> names;
+    for (const auto& [name, factory] : factories_) names.push_back(name);
+    return names;
+}
+
 ManagedWindow& WindowRegistry::touch(std::string_view name) {
     if (ManagedWindow* window = loaded(name)) return *window;
     auto created = factories_.find(name)->second();

@@ -45,6 +45,9 @@ public:
     /// The modules in the order in which they were added.
     const ModuleList& modules() const { return modules_; }
 
+    /// The names of all windows, loaded or not.
+    std::vector<std::string> names() const;
+
     // The windows that are loaded.
 
     /// The window of that name; the first touch creates it and runs its load routine. What runs inside the load may

@@ -47,8 +47,9 @@ TEST_F(CardOfDay, ShowsWhatTheMomentHolds) {
     EXPECT_FALSE(shown(window, "ImageAlert"));
     EXPECT_EQ(textOf(window, "LabelBioInfo"), "Biorhythms: b.3/15/1980 7:05 (average)");
     EXPECT_NE(shown(window, "Imageasc"), shown(window, "Imagedesc"));
-    const QString spoken = control<QWidget>(window, "PicMediaBio").accessibleDescription();
-    EXPECT_TRUE(spoken.toStdString().starts_with(textOf(window, "LabelBioMedia")));
+    const QString spoken = control<QWidget>(window, "PicMediaBio").accessibleName();
+    EXPECT_TRUE(spoken.toStdString().ends_with(": " + textOf(window, "LabelBioMedia")));
+    EXPECT_EQ(control<QWidget>(window, "ImgLuna").accessibleName(), "Moon Waxing Crescent: 31% from Full");
 }
 
 TEST_F(CardOfDay, TheSouthSeesTheMoonTurnedAndADayOfChangeIsTold) {
