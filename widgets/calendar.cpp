@@ -5,7 +5,10 @@
 #include "widgets/look.h"
 #include "widgets/typed_date.h"
 
+#include <QAbstractSpinBox>
+#include <QApplication>
 #include <QCalendarWidget>
+#include <QStyle>
 #include <QTextCharFormat>
 #include <QToolButton>
 
@@ -29,6 +32,13 @@ struct Arrow {
 constexpr std::array<Arrow, 2> arrows{{{"qt_calendar_prevmonth", ":/look/pictures/arrow_left-24.png", "Previous month"},
                                        {"qt_calendar_nextmonth", ":/look/pictures/arrow_right-24.png", "Next month"}}};
 
+/// The toolkit draws the arrows without the focus that they have; the style sheet knows the property.
+void drawFocus(QWidget& arrow, bool focused) {
+    arrow.setProperty("focused", focused);
+    arrow.style()->unpolish(&arrow);
+    arrow.style()->polish(&arrow);
+}
+
 /// The style sheet leaves the two arrows without an icon, and the toolkit without a name.
 void setUpArrows(const QCalendarWidget& calendar) {
     for (const Arrow& arrow : arrows) {
@@ -36,6 +46,10 @@ void setUpArrows(const QCalendarWidget& calendar) {
         if (!button) continue;
         button->setIcon(QIcon(QLatin1String(arrow.picture)));
         button->setAccessibleName(QLatin1String(arrow.name));
+        QObject::connect(qApp, &QApplication::focusChanged, button,
+                         [button](const QWidget* before, const QWidget* now) {
+                             if (before == button || now == button) drawFocus(*button, now == button);
+                         });
     }
 }
 
@@ -46,14 +60,24 @@ void setUpReach(QCalendarWidget& calendar) {
     auto* before = calendar.findChild<QWidget*>(QStringLiteral("qt_calendar_calendarview"));
     if (!before) return;
     before->setAccessibleName(calendar.accessibleName());
-    for (const char* name :
-         {"qt_calendar_prevmonth", "qt_calendar_monthbutton", "qt_calendar_yearbutton", "qt_calendar_nextmonth"}) {
-        auto* button = calendar.findChild<QWidget*>(QLatin1String(name));
-        if (!button) continue;
-        button->setFocusPolicy(Qt::StrongFocus);
-        QWidget::setTabOrder(before, button);
-        before = button;
+    for (const char* name : {"qt_calendar_prevmonth", "qt_calendar_monthbutton", "qt_calendar_yearbutton",
+                             "qt_calendar_yearedit", "qt_calendar_nextmonth"}) {
+        auto* part = calendar.findChild<QWidget*>(QLatin1String(name));
+        if (!part) continue;
+        part->setFocusPolicy(Qt::StrongFocus);
+        QWidget::setTabOrder(before, part);
+        before = part;
     }
+}
+
+/// After a new year the focus is on the days again: the toolkit leaves it on the next control, which the key that ended
+/// the year would then press.
+void returnToDays(QCalendarWidget& calendar) {
+    const auto* year = calendar.findChild<QAbstractSpinBox*>(QStringLiteral("qt_calendar_yearedit"));
+    if (!year) return;
+    QObject::connect(year, &QAbstractSpinBox::editingFinished, &calendar, [&calendar] {
+        if (calendar.isAncestorOf(QApplication::focusWidget())) calendar.setFocus();
+    });
 }
 
 } // namespace
@@ -69,6 +93,7 @@ void setUpCalendar(QCalendarWidget& calendar) {
     for (const auto day : {Qt::Saturday, Qt::Sunday}) calendar.setWeekdayTextFormat(day, lettersIn(look::gold()));
     setUpArrows(calendar);
     setUpReach(calendar);
+    returnToDays(calendar);
 }
 
 } // namespace velmoriax::widgets

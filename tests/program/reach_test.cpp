@@ -30,6 +30,7 @@ std::string nameOf(const QWidget& widget) {
 
 struct Reach : test::ProgramFixture {
     Reach() {
+        QAccessible::setActive(true); // as with a screen reader at work
         files.contents = test::suppliedFiles(files.directory);
         files.at("\\bio.dat") = "15,3,1980\r\n";
         files.at("\\perfiles.txt") = "Ann,March/15/1980,7:45\r\nBob,January/1/1980,12:30\r\n";
@@ -39,6 +40,8 @@ struct Reach : test::ProgramFixture {
         modules.biorhythmsForShell.loadAtStart();
         switcher.loadFirst("FrmCartaDia");
     }
+
+    ~Reach() override { QAccessible::setActive(false); }
 
     QWidget& open(const std::string& name) {
         const bool isModule = std::ranges::count(windows.modules(), name, &shell::ModuleInfo::windowName) > 0;
