@@ -64,7 +64,7 @@ void setUpReach(QCalendarWidget& calendar) {
                              "qt_calendar_yearedit", "qt_calendar_nextmonth"}) {
         auto* part = calendar.findChild<QWidget*>(QLatin1String(name));
         if (!part) continue;
-        part->setFocusPolicy(Qt::StrongFocus);
+        if (part->focusPolicy() == Qt::NoFocus) part->setFocusPolicy(Qt::TabFocus); // a click leaves it on the days
         QWidget::setTabOrder(before, part);
         before = part;
     }
@@ -72,9 +72,10 @@ void setUpReach(QCalendarWidget& calendar) {
 
 /// After a new year the focus is on the days again: the toolkit leaves it on the next control, which the key that ended
 /// the year would then press.
-void returnToDays(QCalendarWidget& calendar) {
-    const auto* year = calendar.findChild<QAbstractSpinBox*>(QStringLiteral("qt_calendar_yearedit"));
+void setUpYear(QCalendarWidget& calendar) {
+    auto* year = calendar.findChild<QAbstractSpinBox*>(QStringLiteral("qt_calendar_yearedit"));
     if (!year) return;
+    year->setAccessibleName(QStringLiteral("Year"));
     QObject::connect(year, &QAbstractSpinBox::editingFinished, &calendar, [&calendar] {
         if (calendar.isAncestorOf(QApplication::focusWidget())) calendar.setFocus();
     });
@@ -93,7 +94,7 @@ void setUpCalendar(QCalendarWidget& calendar) {
     for (const auto day : {Qt::Saturday, Qt::Sunday}) calendar.setWeekdayTextFormat(day, lettersIn(look::gold()));
     setUpArrows(calendar);
     setUpReach(calendar);
-    returnToDays(calendar);
+    setUpYear(calendar);
 }
 
 } // namespace velmoriax::widgets
