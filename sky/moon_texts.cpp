@@ -95,20 +95,26 @@ MoonSummary moonPhaseText(const MoonEngine& engine, base::DateValue date, std::i
     return {name + ": " + percentText + (fromFull ? " from Full" : " from New"), percentText, h};
 }
 
+MoonSummary moonSummary(const MoonEngine& engine, const LitMoment& lit) {
+    const double fraction = lit.light.moonIlluminatedFraction;
+    const std::int16_t h = halfPhaseAngle(engine.moonPhaseAngle(lit.moonMoment));
+    const std::string percent = wholePercentText(fraction);
+    const std::string_view principal = principalPhase(percent, h);
+    if (!principal.empty()) return {std::string(principal), percent, h};
+    MoonSummary between = moonPhaseText(engine, lit.moonMoment, h, fraction);
+    between.text.insert(0, "Moon ");
+    return between;
+}
+
 MoonDetails refreshMoonDetails(const MoonEngine& engine, const LitMoment& lit, bool showPrevious) {
     const base::DateValue moonMoment = lit.moonMoment;
     const double fraction = lit.light.moonIlluminatedFraction;
     MoonDetails details;
     details.labelDetall = illuminationAndAge(fraction, engine.moonAgeDays(moonMoment));
     details.labelInfo = phaseLines(engine, moonMoment, showPrevious);
-    const std::int16_t h = halfPhaseAngle(engine.moonPhaseAngle(moonMoment));
-    details.moonPercentText = wholePercentText(fraction);
-    details.labelResum = principalPhase(details.moonPercentText, h);
-    if (details.labelResum.empty()) {
-        const MoonSummary summary = moonPhaseText(engine, moonMoment, h, fraction);
-        details.labelResum = "Moon " + summary.text;
-        details.moonPercentText = summary.moonPercentText;
-    }
+    const MoonSummary summary = moonSummary(engine, lit);
+    details.labelResum = summary.text;
+    details.moonPercentText = summary.moonPercentText;
     details.labelAd = moonListHint(showPrevious);
     return details;
 }

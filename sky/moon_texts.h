@@ -11,15 +11,24 @@
 /// fraction of the same moment, 0 to 1. Lines are separated by a line feed.
 namespace velmoriax::sky {
 
-/// The summary between the principal phases.
 struct MoonSummary {
-    std::string text;            ///< such as "Waxing Crescent: 31% from Full"
+    std::string text;
     std::string moonPercentText; ///< the percentage in it, such as "31%"
     std::int16_t h = 0;          ///< the half angle; in the waning half the per cent that are missing to full
 };
 
-/// In the waxing half (h at most 90) the percentage is what is lit, in the waning half what is missing to full.
+/// The summary between the principal phases, such as "Waxing Crescent: 31% from Full". In the waxing half (h at most
+/// 90) the percentage is what is lit, in the waning half what is missing to full.
 MoonSummary moonPhaseText(const MoonEngine& engine, base::DateValue date, std::int16_t h, double fraction);
+
+/// A moment, and the light of the Moon then.
+struct LitMoment {
+    base::DateValue moonMoment;
+    MoonLight light;
+};
+
+/// The summary of any moment: the name of a principal phase, or as in "Moon Waxing Crescent: 31% from Full".
+MoonSummary moonSummary(const MoonEngine& engine, const LitMoment& lit);
 
 /// The four labels of the moon details window.
 struct MoonDetails {
@@ -32,12 +41,6 @@ struct MoonDetails {
 
 /// Names the list that is shown.
 std::string moonListHint(bool showPrevious);
-
-/// A moment, and the light of the Moon then.
-struct LitMoment {
-    base::DateValue moonMoment;
-    MoonLight light;
-};
 
 MoonDetails refreshMoonDetails(const MoonEngine& engine, const LitMoment& lit, bool showPrevious);
 

@@ -62,6 +62,12 @@ void DatePicker::wheelEvent(QWheelEvent* event) {
     if (notches != 0) step(notches);
 }
 
+/// A screen reader lists the text as a control inside the box.
+void DatePicker::showEvent(QShowEvent* event) {
+    lineEdit()->setAccessibleName(accessibleName());
+    QComboBox::showEvent(event);
+}
+
 void DatePicker::step(int steps) {
     const int cursor = lineEdit()->cursorPosition();
     commitTyped();

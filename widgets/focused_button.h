@@ -6,8 +6,11 @@ class QWidget;
 
 namespace velmoriax::widgets {
 
-/// Makes Return press the push or tool button of `window` that has the focus, as the space bar does: the toolkit does
-/// that for dialogs alone. True when the key was taken.
+/// Whether Return does something in a control itself: a button, a picture, a link, a list of days.
+bool usesReturn(const QWidget& control);
+
+/// Makes Return press the button of `window` that has the focus, as the space bar does, and the default button when
+/// what has the focus has no use for the key: the toolkit does that for dialogs alone. True when the key was taken.
 bool pressFocusedButton(const QWidget& window, const QKeyEvent& event);
 
 } // namespace velmoriax::widgets

@@ -3,13 +3,17 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 namespace velmoriax::widgets {
 
-/// Opens what explains a picture when the mouse moves on it: at the fifth move inside, and not after a time. From
-/// the first move on the mouse is held, so that the move that leaves the picture is seen, wherever it goes; there all
-/// is closed and the mouse released. It is released as well when the window hides, loses the focus or is behind a box.
+class PictureBox;
+
+/// Opens what explains a picture when the mouse moves on it: at the fifth move on the picture, and not after a time. It
+/// is closed when the mouse leaves the picture, and when the window hides, loses the focus or is behind a box. The
+/// mouse is never held, so that any program can take it. While another window of the program, the one that was
+/// opened, covers the pointer, its place is asked for from time to time: the moves are that window's.
 class HoverWatch : public QObject {
     Q_OBJECT
 
@@ -17,7 +21,7 @@ public:
     /// Whether the keys of a click open it too, for as long as one is pressed.
     enum class Keys { none, whilePressed };
 
-    explicit HoverWatch(QWidget& picture, Keys keys = Keys::none);
+    explicit HoverWatch(PictureBox& picture, Keys keys = Keys::none);
     ~HoverWatch() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -27,15 +31,18 @@ Q_SIGNALS:
     void closed();
 
 private:
-    void moved(QPoint position);
     void used(QEvent& event);
+    void moved(QPoint position);
+    void left();
+    bool isPointerOnPicture() const;
     void enter();
     void leave();
 
-    QWidget& picture_;
-    QPointer<QWidget> window_; ///< watched while the mouse is held
+    PictureBox& picture_;
+    QPointer<QWidget> window_; ///< watched while the mouse is on the picture
     Keys keys_;
-    int moves_ = 0; ///< inside the picture since the mouse came
+    int moves_ = 0;     ///< on the picture since the mouse came
+    QTimer look_{this}; ///< runs while the pointer is covered
 };
 
 } // namespace velmoriax::widgets

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/link_label.h"
 
+#include "widgets/accessible_role.h"
 #include "widgets/picture_box.h"
 
 #include <QKeyEvent>
@@ -10,6 +11,7 @@
 namespace velmoriax::widgets {
 
 LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
+    setAccessibleRole(*this, QAccessible::Link);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setMouseTracking(true);

@@ -2,13 +2,15 @@
 #include "widgets/picture_box.h"
 
 #include "base/run_time_error.h"
+#include "widgets/accessible_role.h"
 
 #include <QBuffer>
+#include <QEnterEvent>
+#include <QHelpEvent>
 #include <QImageReader>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <utility>
 
@@ -46,6 +48,7 @@ bool isClickKey(const QKeyEvent& event) {
 }
 
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
+    setAccessibleRole(*this, QAccessible::Graphic);
     setMouseTracking(true);
     setMinimumSize(24, 24);
 }
@@ -93,7 +96,7 @@ void PictureBox::setCornerRadius(double shareOfWidth) {
 void PictureBox::setClickable(bool clickable) {
     clickable_ = clickable;
     setFocusPolicy(clickable ? Qt::StrongFocus : Qt::NoFocus);
-    setCursor(clickable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    followPointer(mapFromGlobal(QCursor::pos()));
 }
 
 QSize PictureBox::sizeHint() const {
@@ -105,6 +108,17 @@ QRect PictureBox::pictureRect() const {
     return {QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size};
 }
 
+QPainterPath PictureBox::outlineIn(const QRectF& place) const {
+    const double radius = cornerShare_ * place.width();
+    QPainterPath outline;
+    outline.addRoundedRect(place, radius, radius);
+    return outline;
+}
+
+bool PictureBox::isOnPicture(QPoint position) const {
+    return outlineIn(pictureRect()).contains(position);
+}
+
 const QPixmap& PictureBox::scaledPicture() {
     const double ratio = devicePixelRatioF();
     const QSize target = (QSizeF(pictureRect().size()) * ratio).toSize();
@@ -113,12 +127,9 @@ const QPixmap& PictureBox::scaledPicture() {
     drawn.fill(Qt::transparent);
     QPainter painter(&drawn);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    const double radius = cornerShare_ * target.width();
-    QPainterPath outline;
-    outline.addRoundedRect(QRectF(QPointF(), QSizeF(target)), radius, radius);
     painter.setPen(Qt::NoPen);
     const QImage fitted = picture().scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    painter.fillPath(outline, QBrush(fitted));
+    painter.fillPath(outlineIn(QRectF(QPointF(), QSizeF(target))), QBrush(fitted));
     painter.end();
     scaled_ = QPixmap::fromImage(drawn);
     scaled_.setDevicePixelRatio(ratio);
@@ -134,12 +145,27 @@ void PictureBox::paintEvent(QPaintEvent*) {
     if (!hasFocus()) return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    const double radius = cornerShare_ * place.width();
-    painter.drawRoundedRect(QRectF(place).adjusted(1, 1, -1, -1), radius, radius);
+    painter.drawPath(outlineIn(QRectF(place).adjusted(1, 1, -1, -1)));
+}
+
+bool PictureBox::event(QEvent* event) {
+    const bool besideIt =
+        event->type() == QEvent::ToolTip && !isOnPicture(static_cast<const QHelpEvent*>(event)->pos());
+    if (!besideIt) return QWidget::event(event);
+    event->ignore();
+    return true;
+}
+
+void PictureBox::followPointer(QPoint position) {
+    setCursor(clickable_ && isOnPicture(position) ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void PictureBox::enterEvent(QEnterEvent* event) {
+    followPointer(event->position().toPoint());
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {
-    pressedInside_ = event->button() == Qt::LeftButton;
+    pressedInside_ = event->button() == Qt::LeftButton && isOnPicture(event->position().toPoint());
     if (pressedInside_) Q_EMIT pressed();
 }
 
@@ -147,11 +173,11 @@ void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !pressedInside_) return;
     pressedInside_ = false;
     Q_EMIT released();
-    if (rect().contains(event->position().toPoint())) Q_EMIT clicked();
+    if (isOnPicture(event->position().toPoint())) Q_EMIT clicked();
 }
 
 void PictureBox::mouseMoveEvent(QMouseEvent* event) {
-    Q_EMIT mouseMoved(event->position().toPoint());
+    followPointer(event->position().toPoint());
 }
 
 void PictureBox::keyPressEvent(QKeyEvent* event) {

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QPainterPath>
 #include <QPixmap>
 #include <QWidget>
 
@@ -31,13 +32,14 @@ public:
     /// the rest of a window's load. Throws as `loadPicture` does when the file is missing or begins like no picture.
     void setPictureFile(const platform::Files& files, const std::string& path);
 
-    /// The tip of the picture, which is its accessible name as well.
+    /// The tip of the picture, which is its accessible name as well when it tells what is shown. A tip that tells what
+    /// a click does is followed by `setAccessibleName`.
     void setTip(const QString& tip);
 
     /// Rounds the corners by a share of the width: 0.045 for a card.
     void setCornerRadius(double shareOfWidth);
 
-    /// A picture that answers clicks takes the keyboard focus and shows a hand.
+    /// A picture that answers clicks takes the keyboard focus, and the pointer on it is a hand.
     void setClickable(bool clickable);
 
     QSize sizeHint() const override;
@@ -46,14 +48,19 @@ public:
     /// Where the picture itself is within the box.
     QRect pictureRect() const;
 
+    /// Whether a point of the box is on the drawn picture: what is beside it in a wide or high box, and outside its
+    /// round corners, answers nothing.
+    bool isOnPicture(QPoint position) const;
+
 Q_SIGNALS:
     void clicked();
     void pressed();
     void released();
-    void mouseMoved(QPoint position);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -62,6 +69,8 @@ protected:
 
 private:
     void takeSize(QSize size);
+    void followPointer(QPoint position);
+    QPainterPath outlineIn(const QRectF& place) const;
     const QPixmap& scaledPicture();
 
     mutable QImage picture_;

@@ -54,6 +54,12 @@ void SpinBox::setFace(const QString& name) {
     lineEdit()->setObjectName(name);
 }
 
+/// A screen reader lists the text as a control inside the box.
+void SpinBox::showEvent(QShowEvent* event) {
+    lineEdit()->setAccessibleName(accessibleName());
+    QSpinBox::showEvent(event);
+}
+
 void SpinBox::commitTyped() {
     interpretText();
     markOutside();

@@ -28,6 +28,7 @@ public:
 protected:
     QValidator::State validate(QString& text, int& position) const override;
     void fixup(QString& text) const override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void markOutside();

@@ -3,6 +3,7 @@
 
 #include "biorhythm/bio_chart.h"
 #include "biorhythm/windows/bio_colours.h"
+#include "widgets/accessible_role.h"
 #include "widgets/conversions.h"
 #include "widgets/look.h"
 
@@ -23,11 +24,16 @@ QPointF at(const QRectF& field, double x, double y) {
 } // namespace
 
 BarPicture::BarPicture(QWidget* parent) : QWidget(parent) {
+    widgets::setAccessibleRole(*this, QAccessible::Graphic);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 void BarPicture::setBars(const CycleValues& bars) {
     bars_ = bars;
+    QStringList values;
+    for (std::size_t i = 0; i < cycleCount; ++i)
+        values << QStringLiteral("%1 %2 %").arg(widgets::qtText(cycleTable[i].name)).arg(qRound(bars[i] * 100));
+    setAccessibleDescription(values.join(QStringLiteral(", ")));
     update();
 }
 

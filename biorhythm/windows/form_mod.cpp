@@ -8,6 +8,7 @@
 #include "ui_form_mod.h"
 #include "widgets/conversions.h"
 #include "widgets/date_picker.h"
+#include "widgets/default_button.h"
 
 namespace velmoriax::biorhythm {
 
@@ -15,7 +16,7 @@ FormMod::FormMod(shell::WindowContext& context) : SecondaryWindow(context), ui_(
     ui_->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
     connect(ui_->CmdAcept, &QPushButton::clicked, this, &FormMod::submit);
-    connect(ui_->TextName, &QLineEdit::returnPressed, this, &FormMod::submit);
+    new widgets::DefaultButton(*ui_->CmdAcept);
     connect(ui_->CmdCancel, &QPushButton::clicked, this, &FormMod::close);
 }
 

@@ -5,6 +5,7 @@
 #include "shell/windows/popup_pictures.h"
 #include "shell/windows/screen_measures.h"
 #include "ui_notif.h"
+#include "widgets/accessible_role.h"
 #include "widgets/conversions.h"
 #include "widgets/look.h"
 #include "widgets/topmost.h"
@@ -51,6 +52,7 @@ void waitUntil(const QElapsedTimer& clock, qint64 microseconds) {
 // The window manager has no say over this window: one that begins below the screen would be brought onto it, and a
 // notification is neither to be listed nor to be given the focus.
 Notif::Notif(WindowContext& context) : SecondaryWindow(context, smallWindow), ui_(std::make_unique<Ui::Notif>()) {
+    widgets::setAccessibleRole(*this, QAccessible::AlertMessage);
     openPopupPictures();
     ui_->setupUi(this);
     setAttribute(Qt::WA_ShowWithoutActivating);

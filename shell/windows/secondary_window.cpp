@@ -3,6 +3,7 @@
 
 #include "shell/windows/window_place.h"
 #include "shell/windows/window_registry.h"
+#include "widgets/accessible_role.h"
 #include "widgets/focused_button.h"
 
 #include <QCloseEvent>
@@ -13,7 +14,10 @@
 namespace velmoriax::shell {
 
 SecondaryWindow::SecondaryWindow(WindowContext& context, Qt::WindowFlags flags) :
-    QWidget(nullptr, flags), context_(context) {}
+    QWidget(nullptr, flags), context_(context) {
+    const bool isDialog = !flags.testFlag(Qt::WindowDoesNotAcceptFocus);
+    widgets::setAccessibleRole(*this, isDialog ? QAccessible::Dialog : QAccessible::ToolTip);
+}
 
 void SecondaryWindow::unload() {
     if (unloaded_) return;

@@ -6,6 +6,16 @@
 
 namespace velmoriax::tarot {
 
+namespace {
+
+/// The tip of the card shown before stays, as a click describes that card still.
+void showBack(widgets::PictureBox& place, const QImage& back) {
+    place.setPicture(back);
+    place.setAccessibleName(QStringLiteral("Card, face down"));
+}
+
+} // namespace
+
 void showCard(widgets::PictureBox& place, const DrawnCard& drawn, const platform::Files& files, int rimLeft) {
     const QImage picture = widgets::loadPicture(files, drawn.cardPath);
     const bool inverted = drawn.orientation == Orientation::inverted;
@@ -14,11 +24,11 @@ void showCard(widgets::PictureBox& place, const DrawnCard& drawn, const platform
 }
 
 void showOwnBack(widgets::PictureBox& place) {
-    place.setPicture(QImage(QStringLiteral(":/tarot/card_back.jpg")));
+    showBack(place, QImage(QStringLiteral(":/tarot/card_back.jpg")));
 }
 
 void showMajorBack(widgets::PictureBox& place, const platform::Files& files) {
-    place.setPicture(widgets::loadPicture(files, majorBackPath(files.applicationDirectory())));
+    showBack(place, widgets::loadPicture(files, majorBackPath(files.applicationDirectory())));
 }
 
 } // namespace velmoriax::tarot

@@ -9,6 +9,7 @@
 #include "shell/windows/window_registry.h"
 #include "sky/moon_engine.h"
 #include "sky/moon_pictures.h"
+#include "sky/moon_texts.h"
 #include "sky/time_zone_shift.h"
 #include "sky/windows/frm_moon_phase.h"
 #include "sky/zodiac.h"
@@ -149,8 +150,11 @@ void FrmCartaDia::startTimers() {
 
 void FrmCartaDia::drawDayMoon() {
     const base::DateValue moment = sky::localToUniversal(desktop().clock.now(), desktop().zone);
-    const std::string name = sky::drawDayMoon(sky::MoonEngine(desktop().events), moment);
+    const sky::MoonEngine engine(desktop().events);
+    const std::string name = sky::drawDayMoon(engine, moment);
+    const std::string phase = sky::moonSummary(engine, {moment, sky::moonIllumination(moment)}).text;
     if (!isLoaded()) return;
+    ui_->ImgLuna->setAccessibleName(widgets::qtText(phase));
     ui_->ImgLuna->setPicture(
         widgets::loadChoice(desktop().files, sky::moonPicture(desktop().files, name, options().holders.hemisferio)));
 }

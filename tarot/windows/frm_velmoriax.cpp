@@ -7,6 +7,7 @@
 #include "tarot/windows/card_picture.h"
 #include "ui_frm_velmoriax.h"
 #include "widgets/conversions.h"
+#include "widgets/default_button.h"
 #include "widgets/look.h"
 
 namespace velmoriax::tarot {
@@ -41,7 +42,7 @@ void frmVelmoriax::connectControls() {
     connect(ui_->ARButtonAcep, &QPushButton::clicked, this, &frmVelmoriax::submit);
     connect(ui_->ARButtonReset, &QPushButton::clicked, this, &frmVelmoriax::reset);
     connect(ui_->ImgVelmoriax, &widgets::PictureBox::clicked, this, &frmVelmoriax::describeCard);
-    connect(ui_->text1, &QLineEdit::returnPressed, this, &frmVelmoriax::submit);
+    new widgets::DefaultButton(*ui_->ARButtonAcep);
     connect(ui_->text1, &QLineEdit::textChanged, this, [this] { update(); });
 }
 

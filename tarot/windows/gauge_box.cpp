@@ -25,7 +25,7 @@ GaugeBox::GaugeBox(QWidget* parent) : QAbstractButton(parent) {
 void GaugeBox::draw(const shell::AverageGauge& gauge) {
     value_ = gauge.value;
     colour_ = QColor(gauge.colour.red, gauge.colour.green, gauge.colour.blue);
-    setAccessibleDescription(widgets::qtText(gauge.labelBioMedia + ", " + gauge.labelBioInfo));
+    setAccessibleName(widgets::qtText("Average of the biorhythms: " + gauge.labelBioMedia));
     update();
 }
 

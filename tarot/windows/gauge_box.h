@@ -10,7 +10,7 @@ struct AverageGauge;
 namespace velmoriax::tarot {
 
 /// The average gauge: a bar over the whole width, up from the middle line for a positive day and down for a negative
-/// one. It answers clicks like a button; its two lines are its accessible description.
+/// one. It answers clicks like a button; its value is its accessible name.
 class GaugeBox : public QAbstractButton {
     Q_OBJECT
 

@@ -49,6 +49,18 @@ TEST_F(AnotherDay, APickedDayGivesCardSignAndMoon) {
     EXPECT_EQ(boxes.shown.at(0).title, "XV. The Devil") << "the card of the day, whatever was drawn since";
 }
 
+TEST_F(AnotherDay, ANewYearIsSetByKeysAlone) {
+    auto& button = control<QAbstractButton>(window, "qt_calendar_yearbutton");
+    button.setFocus();
+    for (const auto key : {Qt::Key_Return, Qt::Key_Up, Qt::Key_Return}) {
+        QTest::keyClick(window.focusWidget(), key);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(calendar.yearShown(), 2027);
+    EXPECT_EQ(calendar.monthShown(), 11) << "the key that ends it presses no arrow";
+    EXPECT_EQ(window.focusWidget()->objectName().toStdString(), "qt_calendar_calendarview");
+}
+
 TEST_F(AnotherDay, AChangeOfSignIsToldUntilTheNextPick) {
     zone.info = {platform::ZoneInfo::State::standard, 480, 0};
     pick({2026, 11, 22});

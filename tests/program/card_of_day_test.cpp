@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QWindow>
 
 #include <algorithm>
@@ -12,6 +13,11 @@ namespace velmoriax::tarot {
 namespace {
 
 struct CardOfDay : DayFixture {
+    /// Moves the pointer of the desktop, ending at that place.
+    static void movePointer(QWidget& receiver, QPoint to, int times = 1) {
+        for (int i = times - 1; i >= 0; --i) QTest::mouseMove(&receiver, to + QPoint(i % 2, 0));
+    }
+    /// Moves over a widget without the desktop, which here activates the moon details when they are shown.
     static void move(QWidget& receiver, QPoint to, int times = 1) {
         for (int i = 0; i < times; ++i) {
             QMouseEvent event(QEvent::MouseMove, to, receiver.mapToGlobal(to), Qt::NoButton, Qt::NoButton,
@@ -19,6 +25,7 @@ struct CardOfDay : DayFixture {
             QCoreApplication::sendEvent(&receiver, &event);
         }
     }
+    static QPoint middle(const widgets::PictureBox& box) { return box.pictureRect().center(); }
     static bool isAway(const QWidget& window) { return !window.isVisible() || window.isMinimized(); }
     sky::FrmMoonPhase* moonDetails() { return windows.loaded<sky::FrmMoonPhase>(); }
 
@@ -40,8 +47,9 @@ TEST_F(CardOfDay, ShowsWhatTheMomentHolds) {
     EXPECT_FALSE(shown(window, "ImageAlert"));
     EXPECT_EQ(textOf(window, "LabelBioInfo"), "Biorhythms: b.3/15/1980 7:05 (average)");
     EXPECT_NE(shown(window, "Imageasc"), shown(window, "Imagedesc"));
-    const QString spoken = control<QWidget>(window, "PicMediaBio").accessibleDescription();
-    EXPECT_TRUE(spoken.toStdString().starts_with(textOf(window, "LabelBioMedia")));
+    const QString spoken = control<QWidget>(window, "PicMediaBio").accessibleName();
+    EXPECT_TRUE(spoken.toStdString().ends_with(": " + textOf(window, "LabelBioMedia")));
+    EXPECT_EQ(control<QWidget>(window, "ImgLuna").accessibleName(), "Moon Waxing Crescent: 31% from Full");
 }
 
 TEST_F(CardOfDay, TheSouthSeesTheMoonTurnedAndADayOfChangeIsTold) {
@@ -115,27 +123,34 @@ TEST_F(CardOfDay, GaugeMoonAndSignFollowTheMinutesAndTheCardDoesNot) {
     EXPECT_FALSE(state.refreshingView || state.viewLoading);
 }
 
-TEST_F(CardOfDay, TheFifthMoveTellsAboutTheSignAndTheMouseIsAlwaysLetGo) {
+TEST_F(CardOfDay, TheFifthMoveTellsAboutTheSignAndNoMoveHoldsTheMouse) {
     auto& window = start();
     auto& sign = control<widgets::PictureBox>(window, "ImageZod");
     auto& text = control<QLabel>(window, "TextZod");
-    for (const auto& goAway : {+[](QWidget& w) {
-                                   move(control<QWidget>(w, "ImageZod"), {-1, 5});
-                               },
-                               +[](QWidget& w) { w.hide(); }, +[](QWidget& w) { w.close(); },
-                               +[](QWidget& w) {
-                                   QEvent blocked(QEvent::WindowBlocked);
-                                   QCoreApplication::sendEvent(&w, &blocked);
-                               }}) {
+    ASSERT_GT(sign.pictureRect().left(), 8) << "the box is wider than its picture";
+    for (const auto& goAway :
+         {+[](QWidget& w) {
+              movePointer(control<QWidget>(w, "ImageZod"), {2, 30});
+          },
+          +[](QWidget& w) {
+              movePointer(control<QWidget>(w, "LabelFase"), {2, 2});
+          },
+          +[](QWidget&) { QCursor::setPos(5000, 5000); }, +[](QWidget& w) { w.hide(); }, +[](QWidget& w) { w.close(); },
+          +[](QWidget& w) {
+              QEvent blocked(QEvent::WindowBlocked);
+              QCoreApplication::sendEvent(&w, &blocked);
+          }}) {
         window.showNormalState();
-        move(sign, {5, 5}, 4);
+        movePointer(sign, {2, 30}, 7);
+        EXPECT_FALSE(text.isVisible()) << "beside the picture";
+        movePointer(sign, middle(sign), 4);
         EXPECT_FALSE(text.isVisible());
-        EXPECT_EQ(QWidget::mouseGrabber(), &sign);
-        move(sign, {6, 5});
+        EXPECT_EQ(QWidget::mouseGrabber(), nullptr) << "a screen lock can take it at any moment";
+        movePointer(sign, middle(sign) + QPoint(3, 0));
         EXPECT_TRUE(text.isVisible());
         EXPECT_FALSE(text.geometry().intersects({sign.mapTo(&window, QPoint()), sign.size()}));
         goAway(window);
-        EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
+        QCoreApplication::processEvents();
         EXPECT_FALSE(text.isVisible());
     }
     QTest::keyPress(&sign, Qt::Key_Space);
@@ -148,17 +163,17 @@ TEST_F(CardOfDay, TheFifthMoveTellsAboutTheSignAndTheMouseIsAlwaysLetGo) {
 TEST_F(CardOfDay, TheMoonTellsItsPhasesWhileTheMouseRestsOnIt) {
     auto& window = start();
     auto& moon = control<widgets::PictureBox>(window, "ImgLuna");
-    move(moon, {5, 5}, 5);
+    move(moon, middle(moon), 5);
     ASSERT_NE(moonDetails(), nullptr);
     EXPECT_TRUE(moonDetails()->isVisible());
     EXPECT_TRUE(textOf(*moonDetails(), "LabelInfo").starts_with("Next Full Moon: 11/24/2026 "));
-    Q_EMIT moon.clicked();
+    QTest::mouseClick(&moon, Qt::LeftButton, {}, middle(moon));
     EXPECT_TRUE(textOf(*moonDetails(), "LabelInfo").starts_with("Previous Full Moon: 10/26/2026 "));
     clock.set({2026, 11, 24}, {15, 0, 0});
     fire(*moonDetails(), "Timer1");
     EXPECT_EQ(textOf(*moonDetails(), "LabelResum"), "Full Moon") << "it runs live";
-    move(moon, {5, -1});
-    EXPECT_EQ(moonDetails(), nullptr);
+    move(moon, moon.pictureRect().topLeft() + QPoint(1, 1));
+    EXPECT_EQ(moonDetails(), nullptr) << "outside the disk";
 
     QTest::keyClick(&moon, Qt::Key_Return);
     ASSERT_NE(moonDetails(), nullptr) << "the keyboard finds it as well";
@@ -166,21 +181,33 @@ TEST_F(CardOfDay, TheMoonTellsItsPhasesWhileTheMouseRestsOnIt) {
     EXPECT_NE(moonDetails(), nullptr) << "labels do not count";
     move(*moonDetails(), {2, 2});
     EXPECT_EQ(moonDetails(), nullptr);
+}
 
-    move(moon, {5, 5}, 5);
-    window.hideToTray();
+TEST_F(CardOfDay, AWindowThatGoesWhileTheMouseIsOnTheMoonLeavesNothing) {
+    QPointer<QWidget> window = &start();
+    auto& moon = control<widgets::PictureBox>(*window, "ImgLuna");
+    move(moon, middle(moon), 5);
+    loadedModule().hideToTray();
     EXPECT_EQ(moonDetails(), nullptr);
+
+    loadedModule().showNormalState();
+    move(moon, middle(moon), 5);
+    EXPECT_NE(moonDetails(), nullptr);
+    windows.unload("FrmCartaDia");
+    EXPECT_EQ(moonDetails(), nullptr);
+    move(moon, middle(moon), 7);
+    EXPECT_EQ(moonDetails(), nullptr) << "moves that were still on their way";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.isNull(); }));
+    EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
 }
 
 TEST_F(CardOfDay, TheMouseMayLeaveTheMoonWhileItsPhasesAreSearched) {
     auto& window = start();
     auto& moon = control<widgets::PictureBox>(window, "ImgLuna");
     events.whatRuns = [&] {
-        if (!moonDetails()) return;
-        move(moon, {5, -1});
-        QCoreApplication::processEvents();
+        if (moonDetails()) move(moon, {1, 1});
     };
-    move(moon, {5, 5}, 5);
+    move(moon, middle(moon), 5);
     EXPECT_EQ(moonDetails(), nullptr);
     for (const QWidget* top : QApplication::topLevelWidgets())
         EXPECT_FALSE(top->inherits("velmoriax::sky::FrmMoonPhase") && top->isVisible());

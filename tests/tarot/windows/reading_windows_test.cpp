@@ -44,10 +44,12 @@ TEST_F(NumbersWindow, ShowsTheCardAndKeepsWhatTheResetLeaves) {
     EXPECT_EQ(onShow(window, "ImgVelmoriax"), 0xff00000eU);
     EXPECT_EQ(textOf(window, "Text2"), "It has corresponded... XIV. The Temperance");
     EXPECT_EQ(tipOf(window, "ImgVelmoriax"), "XIV. Temperance");
+    EXPECT_EQ(picture.accessibleName(), QStringLiteral("XIV. Temperance"));
 
     press(window, "ARButtonReset");
     EXPECT_EQ(onShow(window, "ImgVelmoriax"), back);
     EXPECT_EQ(textOf(window, "Text2") + textOf(window, "text1"), "");
+    EXPECT_EQ(picture.accessibleName(), QStringLiteral("Card, face down"));
     EXPECT_EQ(tipOf(window, "ImgVelmoriax"), "XIV. Temperance");
     cards.cards.currentCard = 3;
     boxes.whileOpen = [this] { EXPECT_TRUE(state.cardDescriptionOpen); };
@@ -108,6 +110,7 @@ TEST_F(NamesWindow, WarnsOfEachFieldWithADigitAndReadsTheOthers) {
     EXPECT_TRUE(files.at("\\logs\\resNames.log").ends_with("Resultant card: diablo15.jpg\r\n"));
 
     press(window, "ARButtonReset");
+    EXPECT_EQ(picture.accessibleName(), QStringLiteral("Card, face down"));
     EXPECT_EQ(textOf(window, "Text2ape"), "");
     Q_EMIT picture.clicked();
     EXPECT_EQ(boxes.shown.back().title, "XV. The Devil") << "the reset forgets the names, not the card";
