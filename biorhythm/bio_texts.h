@@ -15,6 +15,9 @@ inline constexpr std::string_view sameProfile = "You should choose a different p
 
 inline constexpr std::string_view chooseRecordTitle = "ErrorInfo"; ///< without the hyphen of the other boxes
 inline constexpr std::string_view chooseRecord = "You must choose a record";
+inline constexpr std::string_view recordNotReplaced = "The working copy of the list is gone or cannot be written, so "
+                                                      "the old record could not be replaced. The changed one "
+                                                      "was added to the list; the old one can be deleted there.";
 
 inline constexpr std::string_view snapshotSaved =
     "The picture has been saved in the application folder as mysnap.jpg"; ///< shown before the picture is written

@@ -81,6 +81,10 @@ BioShown calcBio(BioState& state, BioViewState& view, base::DateValue now) {
     return shown;
 }
 
+float livedIn(const BioViewState& view, base::CivilTime clock) {
+    return livedOf(view.birth, view.reading, clock).lived;
+}
+
 bool halfHourIsOver(BioViewState& view) {
     if (++view.bioTickCount < halfMinutesOfHalfHour) return false;
     view.bioTickCount = 0;

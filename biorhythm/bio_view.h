@@ -58,6 +58,10 @@ void limitDaysBio(BioViewState& view);
 /// over only when it is saved.
 BioShown calcBio(BioState& state, BioViewState& view, base::DateValue now);
 
+/// The age in days on the view's date of reading at the clock's hour and minute. Computed from the view alone, since
+/// `BioState` holds whatever was computed last.
+float livedIn(const BioViewState& view, base::CivilTime clock);
+
 /// Counts a half-minute. True each half hour, when the view is to return to today and to calculate.
 bool halfHourIsOver(BioViewState& view);
 

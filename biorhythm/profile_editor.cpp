@@ -28,13 +28,14 @@ EditedProfile editedProfile(std::string_view line) {
     return {fields.name, profileDate(fields.dateText), {numberUpTo(23, hour), numberUpTo(59, minute), 0}};
 }
 
-void submitProfile(platform::Files& files, const std::string& copyPath, std::string_view name,
+bool submitProfile(platform::Files& files, const std::string& copyPath, std::string_view name,
                    const base::CivilMoment& birth) {
     const std::string timeText = std::to_string(birth.time.hour) + ":" + std::to_string(birth.time.minute);
     const RecordedBirth record{birth.date, timeText};
     // Appended to the copy before the copy replaces the list: at every moment one of the two files has the record.
     const bool replaced = appendToCopy(files, copyPath, name, record) && replaceProfiles(files, copyPath);
     if (!replaced) appendProfile(files, name, record);
+    return replaced;
 }
 
 } // namespace velmoriax::biorhythm

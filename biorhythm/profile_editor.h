@@ -23,8 +23,8 @@ EditedProfile editedProfile(std::string_view line);
 
 /// "Submit": appends the record to the copy of the list that is without the old one, and puts the copy in the list's
 /// place. The minute is written as a plain number, "7:5". When the copy cannot be put there, the record is appended to
-/// the list itself: the old one may then remain, but nobody is lost.
-void submitProfile(platform::Files& files, const std::string& copyPath, std::string_view name,
+/// the list itself: the old one may then remain, but nobody is lost. False then.
+bool submitProfile(platform::Files& files, const std::string& copyPath, std::string_view name,
                    const base::CivilMoment& birth);
 
 } // namespace velmoriax::biorhythm

@@ -143,18 +143,33 @@ std::string profileLine(std::string_view name, const RecordedBirth& birth) {
     return line.append(timeText);
 }
 
+namespace {
+
+bool appendTo(platform::Files& files, const std::string& path, std::string bytes, const std::string& line) {
+    const bool lastLineHasNoEnd = !bytes.empty() && base::lineEnd.find(bytes.back()) == std::string_view::npos;
+    if (lastLineHasNoEnd) bytes += base::lineEnd;
+    bytes.append(base::toWindows1252(line)).append(base::lineEnd);
+    return files.replace(path, bytes);
+}
+
+} // namespace
+
+std::string unreadableProfile(std::string_view name) {
+    return "The record of \"" + std::string(name) +
+           "\" cannot be read: it needs a date such as March/15/1980 and a time such as 7:45. It stays in the list as "
+           "it is.";
+}
+
 bool appendProfile(platform::Files& files, std::string_view name, const RecordedBirth& birth) {
-    return appendToCopy(files, profilesPath(files), name, birth);
+    const std::string path = profilesPath(files);
+    const auto content = files.read(path);
+    return content.status != Status::unreadable && appendTo(files, path, content.bytes, profileLine(name, birth));
 }
 
 bool appendToCopy(platform::Files& files, const std::string& copyPath, std::string_view name,
                   const RecordedBirth& birth) {
-    auto [status, bytes] = files.read(copyPath);
-    if (status == Status::unreadable) return false;
-    const bool lastLineHasNoEnd = !bytes.empty() && base::lineEnd.find(bytes.back()) == std::string_view::npos;
-    if (lastLineHasNoEnd) bytes += base::lineEnd;
-    bytes.append(base::toWindows1252(profileLine(name, birth))).append(base::lineEnd);
-    return files.replace(copyPath, bytes);
+    const auto content = files.read(copyPath);
+    return content.status == Status::read && appendTo(files, copyPath, content.bytes, profileLine(name, birth));
 }
 
 std::optional<std::string> saveProfile(platform::Files& files, platform::MessageBoxes& boxes,

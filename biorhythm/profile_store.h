@@ -63,10 +63,13 @@ struct RecordedBirth {
 /// The line of a record.
 std::string profileLine(std::string_view name, const RecordedBirth& birth);
 
+/// What the user is told of a record that is passed over because its date or time cannot be read.
+std::string unreadableProfile(std::string_view name);
+
 /// Appends a record as a line of its own; false when it could not be written.
 bool appendProfile(platform::Files& files, std::string_view name, const RecordedBirth& birth);
 
-/// The same for a copy of the list.
+/// The same for a copy of the list, which has to exist.
 bool appendToCopy(platform::Files& files, const std::string& copyPath, std::string_view name,
                   const RecordedBirth& birth);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "biorhythm/windows/form_mod.h"
 
+#include "biorhythm/bio_texts.h"
 #include "biorhythm/profile_editor.h"
 #include "biorhythm/profile_store.h"
 #include "biorhythm/windows/profile_list.h"
@@ -42,8 +43,9 @@ void FormMod::showRecord(const std::string& line) {
 
 void FormMod::submit() {
     const base::CivilTime time{ui_->VScrollHora->value(), ui_->VScrollMinuto->value(), 0};
-    submitProfile(desktop().files, tempPath_, ui_->TextName->text().toStdString(),
-                  {widgets::civilDate(ui_->DTPicker1->date()), time});
+    const bool replaced = submitProfile(desktop().files, tempPath_, ui_->TextName->text().toStdString(),
+                                        {widgets::civilDate(ui_->DTPicker1->date()), time});
+    if (!replaced) desktop().boxes.show(platform::BoxIcon::warning, std::string(text::recordNotReplaced));
     if (ProfileList* list = windows().loaded<ProfileList>()) list->ListaPerfiles();
     close();
 }

@@ -172,7 +172,7 @@ void frmBio::show(const BioShown& shown) {
 void frmBio::mschart() {
     const base::CivilMoment reading{view().reading, base::civilTimeOf(desktop().clock.now())};
     SecondProfile& second = biorhythms_.second;
-    ui_->MSChart1->showChart(biorhythm::mschart(biorhythms_.bio.lived, second, profiles_->count(), reading));
+    ui_->MSChart1->showChart(biorhythm::mschart(livedIn(view(), reading.time), second, profiles_->count(), reading));
     if (!drawsSecond(second, profiles_->count())) hideSecondName();
 }
 
@@ -248,7 +248,10 @@ void frmBio::hideEvent(QHideEvent* event) {
 
 void frmBio::pickProfile() {
     const std::string name = profileMainName().toStdString();
-    if (!biorhythm::pickProfile(desktop().files, options(), view(), name)) return profiles_->undoChoice();
+    if (!biorhythm::pickProfile(desktop().files, options(), view(), name)) {
+        profiles_->undoChoice();
+        return desktop().boxes.show(platform::BoxIcon::warning, unreadableProfile(name));
+    }
     save();
     profiles_->keepChoice();
     showBirth();
@@ -308,7 +311,13 @@ void frmBio::onMinimised(bool toSystray) {
     if (toSystray) shell::closeNotification(context());
 }
 
-/// Saved when the window is hidden, and not only when it is unloaded: tip and alerts then use what was set.
+/// The next module reads what was set, before this one is unloaded.
+void frmBio::onHandOver() {
+    save();
+}
+
+/// Saved when the window is hidden to the tray or closed, and not only when it is unloaded: tip and alerts then use
+/// what was set. Minimising saves nothing.
 void frmBio::onHidden() {
     save();
 }

@@ -44,6 +44,7 @@ public:
 
 protected:
     void ownLoad() override;
+    void onHandOver() override;
     void onHidden() override;
     void onMinimised(bool toSystray) override;
     void onUnload() override;

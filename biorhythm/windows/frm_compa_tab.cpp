@@ -2,6 +2,8 @@
 #include "biorhythm/windows/frm_compa_tab.h"
 
 #include "biorhythm/bio_texts.h"
+#include "biorhythm/cycle_engine.h"
+#include "biorhythm/profile_store.h"
 #include "biorhythm/windows/bio_colours.h"
 #include "biorhythm/windows/profile_view.h"
 #include "shell/windows/window_registry.h"
@@ -17,7 +19,7 @@ FrmCompaTab::FrmCompaTab(shell::WindowContext& context, BiorhythmState& biorhyth
     for (const char* caption : {"Actual", "General", "Exit"}) ui_->SSTab1->addTab(QString::fromLatin1(caption));
     widgets::look::asTitle(*ui_->LabelProMain);
     showLabels(firstCompatibilityLabels());
-    connect(ui_->ListProfiles, &QListWidget::itemClicked, this, &FrmCompaTab::chooseProfile);
+    connect(ui_->ListProfiles, &widgets::ChoiceList::chosenByMouse, this, &FrmCompaTab::chooseProfile);
     connect(ui_->ListProfiles, &QListWidget::itemSelectionChanged, this, [this] {
         const bool byKey =
             QGuiApplication::mouseButtons() == Qt::NoButton; // a click is handled when the button is released
@@ -37,7 +39,8 @@ void FrmCompaTab::load() {
     listProfiles(*view);
     const QSignalBlocker quiet(ui_->CheckPlot);
     ui_->CheckPlot->setChecked(options().leerDibujarSecundario() == "1");
-    takeMainCycles(compatibility_, biorhythms_.bio.cycle);
+    const base::CivilTime clock = base::civilTimeOf(desktop().clock.now());
+    takeMainCycles(compatibility_, cyclesAt(livedIn(biorhythms_.view, clock)));
     chooseStoredProfile();
 }
 
@@ -85,7 +88,10 @@ void FrmCompaTab::chooseProfile() {
                                     std::string(text::errorInfoTitle));
     const std::string name = chosenName().toStdString();
     const bool readable = loadSecondProfile(desktop().files, name, biorhythms_.second);
-    if (!readable) return showResults(false); // the figures shown are another person's
+    if (!readable) {
+        showResults(false); // the figures shown are another person's
+        return desktop().boxes.show(platform::BoxIcon::warning, unreadableProfile(name));
+    }
     compare();
     storeSecondName(options(), biorhythms_.second, name);
     showSecondName(ui_->CheckPlot->isChecked(), chosenName());

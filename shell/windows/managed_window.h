@@ -26,6 +26,9 @@ public:
 class ManagedModule : public ManagedWindow {
 public:
     virtual void removeTrayIcon() = 0;
+
+    /// Another module is about to be loaded in place of this one.
+    virtual void beforeHandOver() = 0;
 };
 
 } // namespace velmoriax::shell

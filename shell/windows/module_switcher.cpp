@@ -51,6 +51,7 @@ void ModuleSwitcher::switchTo(std::string_view target) {
     waitingLoad_ = nullptr; // of the module that is left now
     ManagedModule* source = context_.windows.loadedModule();
     if (context_.windows.loaded(target) == source) return source->showNormalState();
+    source->beforeHandOver();
     source->removeTrayIcon();
     ManagedWindow& next = context_.windows.touch(target);
     if (stage_ == Stage::leaving) return; // the load has processed events, the program's exit among them

@@ -148,6 +148,11 @@ void ModuleWindow::tellMissingTray() {
     });
 }
 
+void ModuleWindow::beforeHandOver() {
+    widgets::commitTypedValue();
+    onHandOver();
+}
+
 void ModuleWindow::unload() {
     unloadForReal_ = true;
     closeOrUnload();

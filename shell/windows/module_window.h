@@ -35,6 +35,7 @@ public:
     void unload() override;
     void showNormalState() override;
     void removeTrayIcon() override { tray_.RemoveIconFromSystray(); }
+    void beforeHandOver() override;
 
     /// The way back from the tray; a module that has more to do than show itself adds it.
     virtual void returnFromTray() { showNormalState(); }
@@ -63,6 +64,7 @@ protected:
     virtual void beforeOptions() {}                  ///< runs ahead of everything else in the load routine
     virtual void ownLoad() = 0;                      ///< the module's own work
     virtual void ownCommand(std::string_view name);  ///< a menu entry that is the module's own business
+    virtual void onHandOver() {}                     ///< another module is about to be loaded
     virtual void beforeClose() {}                    ///< the window closes, for good or into the tray
     virtual void onHidden() {}                       ///< the window was hidden by the user
     virtual void onMinimised(bool /*toSystray*/) {}  ///< the window was minimised

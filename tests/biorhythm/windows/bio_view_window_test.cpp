@@ -102,6 +102,20 @@ TEST_F(BioView, CountsTheTargetFromTodayUntilItCalculates) {
     EXPECT_EQ(textOf(view, "LblRest"), "0");
 }
 
+TEST_F(BioView, SavesTheBirthBeforeTheNextModuleIsLoaded) {
+    struct Next : shell::ModuleWindow {
+        using ModuleWindow::ModuleWindow;
+        void ownLoad() override { birthAtLoad = desktop().files.read("/home/ann/velmoriax/bio.dat").bytes; }
+        std::string birthAtLoad;
+    };
+    const shell::ModuleInfo next{"Next", "Next"};
+    windows.addModule(next, [&] { return std::make_unique<Next>(context, next); });
+    step(view, "vsbYearBirth", 1976);
+    switcher.handOver("Next");
+    EXPECT_EQ(dynamic_cast<Next&>(*windows.loadedModule()).birthAtLoad, "15,3,1976\r\n");
+    switcher.exit();
+}
+
 TEST_F(BioView, ReturnsToTodayWithTheHalfHour) {
     step(view, "vsbYearBio", 2031);
     for (int tick = 0; tick < 60; ++tick) fire(view, "TimerBio");

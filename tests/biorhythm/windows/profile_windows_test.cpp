@@ -109,6 +109,27 @@ TEST_F(Profiles, CancelKeepsTheListAndTheCopy) {
     EXPECT_EQ(files.contents["/tmp/tmp1"], "Ann,March/15/1980,7:45\r\n\r\nBob,January/1/1980,12:30\r\n");
 }
 
+TEST_F(Profiles, ASubmitWithoutItsCopyLosesNobody) {
+    QWidget& form = edit(1);
+    files.contents.erase("/tmp/tmp1");
+    step(form, "VScrollHora", 7);
+    press(form, "CmdAcept");
+    EXPECT_EQ(control<QListWidget>(list, "ListProfiles").count(), 4) << "the old record and the changed one";
+    EXPECT_EQ(boxes.shown.size(), 1U);
+}
+
+TEST_F(Profiles, TheMouseChoosesTheRowUnderItsRelease) {
+    auto& rows = control<QListWidget>(list, "ListProfiles");
+    test::focus(rows);
+    test::dragOver(rows, 0, 1);
+    EXPECT_EQ(rows.selectedItems(), QList{rows.item(1)});
+    QTest::mouseClick(rows.viewport(), Qt::LeftButton, Qt::ControlModifier, rows.visualItemRect(rows.item(1)).center());
+    QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.viewport()->rect().bottomLeft() + QPoint(3, -3));
+    EXPECT_EQ(rows.selectedItems(), QList{rows.item(1)}) << "neither Ctrl nor the free space gives the choice up";
+    press(list, "CmdBorrar");
+    EXPECT_EQ(lines().find("Bob"), std::string::npos);
+}
+
 TEST_F(Profiles, ShowsWhatFailedAndKeepsTheList) {
     const std::string before = lines();
     files.temporaryNameFails = true;
@@ -168,6 +189,30 @@ TEST_F(CompatibilityWindow, RefusesAPersonOfTheMainProfilesName) {
     EXPECT_EQ(control<QListWidget>(again, "ListProfiles").currentRow(), 2) << "the stored one is compared at the load";
     EXPECT_TRUE(control<QCheckBox>(again, "CheckPlot").isChecked());
     EXPECT_EQ(textOf(view, "TextSecondProf"), "JoAnn");
+}
+
+TEST_F(CompatibilityWindow, ComparesTheRowUnderTheReleaseOfTheMouse) {
+    auto& rows = control<QListWidget>(window, "ListProfiles");
+    test::focus(rows);
+    test::dragOver(rows, 1, 2);
+    EXPECT_EQ(option("Nombre secundario"), "JoAnn");
+    EXPECT_EQ(rows.selectedItems(), QList{rows.item(2)});
+    EXPECT_TRUE(textOf(window, "LabelInfo").find("JoAnn") != std::string::npos) << textOf(window, "LabelInfo");
+}
+
+TEST_F(WithProfiles, WhatTheTipComputedIsNotShownInTheView) {
+    step(view, "vsbYearBio", 2031);
+    const auto chart = control<BioPlot>(view, "MSChart1").chart().chartData;
+    QWidget& window = openWith("XPButtonCompa", "FrmCompaTab");
+    choose(window, 1);
+    const std::string actual = textOf(window, "LabelMedia");
+    window.close();
+    biotip(files, biorhythms.bio, biorhythms.alerts, clock.now());
+    view.mschart();
+    EXPECT_EQ(control<BioPlot>(view, "MSChart1").chart().chartData, chart);
+    QWidget& again = openWith("XPButtonCompa", "FrmCompaTab");
+    choose(again, 1);
+    EXPECT_EQ(textOf(again, "LabelMedia"), actual);
 }
 
 struct Snapshot : WithProfiles {
