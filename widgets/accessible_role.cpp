@@ -23,7 +23,7 @@ QAccessibleInterface* forReader(const QString&, QObject* object) {
 void setAccessibleRole(QWidget& widget, QAccessible::Role role) {
     [[maybe_unused]] static const bool installed = (QAccessible::installFactory(forReader), true);
     widget.setProperty(roleProperty, static_cast<int>(role));
-    // What was made for the widget without the role, while the toolkit set it up, is kept else.
+    // The toolkit keeps what it made for the widget before there was a role.
     QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&widget)));
 }
 

@@ -5,9 +5,9 @@
 
 namespace velmoriax::widgets {
 
-/// Tells screen readers what a widget is, where they cannot know it from the toolkit. To be called first in the
-/// widget's constructor. A widget with a role is pressed by a screen reader as by the space bar when it takes the
-/// focus, and what is inside it counts only while it is visible.
+/// Tells screen readers what a widget is, where they cannot know it from the toolkit. A picture or link with a role is
+/// pressed by a screen reader as by the space bar when it takes the focus. What is inside a widget with a role counts
+/// only while it is visible.
 void setAccessibleRole(QWidget& widget, QAccessible::Role role);
 
 } // namespace velmoriax::widgets
