@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Each window of the program with letters of many sizes on small screens. A new window is tested with the others.
 // FIT_SCREEN is the size of the screen, such as 1280x800 (1024x600).
-#include "shell/windows/window_registry.h"
-#include "support/program_fixture.h"
-#include "support/supplied_files.h"
+#include "every_window.h"
 #include "widgets/look.h"
 
 #include <QComboBox>
@@ -63,7 +61,7 @@ void collect(const QLayout& layout, std::vector<QWidget*>& widgets) {
     }
 }
 
-struct Fit : test::ProgramFixture, testing::WithParamInterface<int> {
+struct Fit : test::EveryWindow, testing::WithParamInterface<int> {
     Fit() {
         EXPECT_TRUE(screenIsSet);
         static const QFont standard = QApplication::font();
@@ -71,32 +69,11 @@ struct Fit : test::ProgramFixture, testing::WithParamInterface<int> {
         font.setPointSize(GetParam());
         QApplication::setFont(font);
         widgets::look::apply(qt);
-        files.contents = test::suppliedFiles(files.directory);
-        files.at("\\bio.dat") = "15,3,1980\r\n";
-        const std::string names[] = {"Ann", std::string(60, 'W'), std::string(200, 'W')};
-        for (const std::string& name : names) files.at("\\perfiles.txt") += name + ",January/1/1980,12:30\r\n";
-        files.at("\\opciones.ini") = "[opciones]\r\nPerfil-Bio=" + names[1] + "\r\nNombre secundario=" + names[2] +
+        const std::string longName(60, 'W'), longerName(200, 'W');
+        files.at("\\perfiles.txt") = longName + ",January/1/1980,12:30\r\n" + longerName + ",January/1/1980,12:30\r\n";
+        files.at("\\opciones.ini") = "[opciones]\r\nPerfil-Bio=" + longName + "\r\nNombre secundario=" + longerName +
                                      "\r\nDibujar secundario=1\r\n";
-        tray.arrive();
-        options.readAtStart();
-        modules.biorhythmsForShell.loadAtStart();
-        switcher.loadFirst("FrmCartaDia");
-    }
-
-    QWidget& open(const std::string& name) {
-        const bool isModule = std::ranges::count(windows.modules(), name, &shell::ModuleInfo::windowName) > 0;
-        switcher.handOver(isModule ? name : "frmBio");
-        if (!isModule) windows.touch("FrmProfiles").widget().findChild<QListWidget*>()->setCurrentRow(1);
-        windows.touch(name).showNormalState();
-        // Each area that scrolls passes a new size on by an event.
-        for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
-        return windows.loaded(name)->widget();
-    }
-    void close(const std::string& name) {
-        for (const char* each : {"FormMod", "FrmProfiles"}) windows.unload(each);
-        switcher.handOver(name == "FrmCartaDia" ? "FrmName" : "FrmCartaDia");
-        windows.unload(name);
-        QCoreApplication::processEvents();
+        start();
     }
 
     static void expectWhole(const QWidget& window) {

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Each window of the program by keyboard and screen reader alone. A new window is tested with the others.
-#include "shell/windows/window_registry.h"
-#include "support/program_fixture.h"
-#include "support/supplied_files.h"
+#include "every_window.h"
 #include "widgets/link_label.h"
+#include "widgets/question_box.h"
 
 #include <QAccessible>
 #include <QCalendarWidget>
@@ -28,32 +27,14 @@ std::string nameOf(const QWidget& widget) {
     return widget.objectName().toStdString() + ", a " + widget.metaObject()->className();
 }
 
-struct Reach : test::ProgramFixture {
+struct Reach : test::EveryWindow {
     Reach() {
-        QAccessible::setActive(true); // as with a screen reader at work
-        files.contents = test::suppliedFiles(files.directory);
-        files.at("\\bio.dat") = "15,3,1980\r\n";
-        files.at("\\perfiles.txt") = "Ann,March/15/1980,7:45\r\nBob,January/1/1980,12:30\r\n";
+        QAccessible::setActive(true);          // as with a screen reader at work
         clock.set({2026, 11, 22}, {12, 0, 0}); // the sign changes, so that its alert is shown
-        tray.arrive();
-        options.readAtStart();
-        modules.biorhythmsForShell.loadAtStart();
-        switcher.loadFirst("FrmCartaDia");
+        start();
     }
 
     ~Reach() override { QAccessible::setActive(false); }
-
-    QWidget& open(const std::string& name) {
-        const bool isModule = std::ranges::count(windows.modules(), name, &shell::ModuleInfo::windowName) > 0;
-        switcher.handOver(isModule ? name : "frmBio");
-        // A profile is chosen for the window that changes it.
-        if (!isModule) windows.touch("FrmProfiles").widget().findChild<QListWidget*>()->setCurrentRow(0);
-        windows.touch(name).showNormalState();
-        QWidget& window = windows.loaded(name)->widget();
-        window.activateWindow();
-        QCoreApplication::processEvents();
-        return window;
-    }
 
     /// What is done in a window so that other controls of it can be used.
     const std::vector<std::pair<std::string, Work>> uses{
@@ -83,9 +64,7 @@ struct Reach : test::ProgramFixture {
         QWidget& window = open(name);
         use(window);
         work(window);
-        switcher.handOver(name == "FrmName" ? "FrmCartaDia" : "FrmName");
-        for (const std::string& each : windows.names())
-            if (windows.loaded(each) != windows.loadedModule()) windows.unload(each);
+        close(name);
     }
 
     static bool takesFocus(const QWidget& window) {
@@ -156,15 +135,22 @@ struct Reach : test::ProgramFixture {
 
     /// Which controls were pressed; what they do otherwise is switched off.
     std::vector<QWidget*> pressed;
+    /// Not all that is connected: the toolkit follows the end of a control by a signal too.
+    template<typename Control, typename Signal>
+    void listenTo(QWidget& control, Signal signal) {
+        auto* sender = qobject_cast<Control*>(&control);
+        if (!sender) return;
+        QObject::disconnect(sender, signal, nullptr, nullptr);
+        QObject::connect(sender, signal, [this, sender] { pressed.push_back(sender); });
+    }
     void listenTo(QWidget& control) {
-        const auto note = [this, &control] { pressed.push_back(&control); };
-        control.disconnect();
-        if (auto* button = qobject_cast<QAbstractButton*>(&control))
-            QObject::connect(button, &QAbstractButton::clicked, note);
-        if (auto* picture = qobject_cast<widgets::PictureBox*>(&control))
-            QObject::connect(picture, &widgets::PictureBox::clicked, note);
-        if (auto* link = qobject_cast<widgets::LinkLabel*>(&control))
-            QObject::connect(link, &widgets::LinkLabel::clicked, note);
+        listenTo<QAbstractButton>(control, &QAbstractButton::clicked);
+        if (auto* button = qobject_cast<QAbstractButton*>(&control)) // that of a menu would open it and wait
+            QObject::disconnect(button, &QAbstractButton::pressed, nullptr, nullptr);
+        listenTo<widgets::PictureBox>(control, &widgets::PictureBox::clicked);
+        listenTo<widgets::LinkLabel>(control, &widgets::LinkLabel::clicked);
+        if (auto* question = qobject_cast<widgets::QuestionBox*>(&control))
+            QObject::disconnect(question, &widgets::QuestionBox::asked, nullptr, nullptr);
     }
     static bool isPressable(const QWidget& control) {
         const auto* button = qobject_cast<const QAbstractButton*>(&control);
