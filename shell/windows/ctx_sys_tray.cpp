@@ -52,6 +52,7 @@ void CtxSysTray::AddIconToSystray(std::string_view tip) {
     if (context_.state.noTrayAdd) return;
     added_ = true;
     context_.desktop.tray.add(text(tip, longestTip), &popup_);
+    textTimer_.stop(); // its text is not the tip any more
     followTipText();
 }
 
