@@ -24,7 +24,7 @@ std::string fileSystemPath(std::string_view programPath, std::string_view applic
 }
 
 bool takesSubdirectory(std::string_view applicationDirectory) {
-    return applicationDirectory.size() > 3;
+    return applicationDirectory != "/";
 }
 
 } // namespace velmoriax::platform

@@ -10,8 +10,8 @@ namespace velmoriax::platform {
 /// character, backslashes separate. The name of the options file is spelled in small letters under any spelling.
 std::string fileSystemPath(std::string_view programPath, std::string_view applicationDirectory);
 
-/// True for a directory text of more than 3 characters: only then is a subdirectory appended to it, so that a program
-/// in the root of a drive finds its pictures and texts beside itself.
+/// False for the root of the file system: no subdirectory is appended to it, so that a program there finds its pictures
+/// and texts beside itself.
 bool takesSubdirectory(std::string_view applicationDirectory);
 
 } // namespace velmoriax::platform

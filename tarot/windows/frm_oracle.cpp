@@ -26,6 +26,7 @@ constexpr QMargins monthViewMargins{8, 8, 8, 8};
 constexpr int textLines = 9;
 constexpr int fewestTextLines = 3;
 constexpr int textLetters = 96;
+constexpr int textRim = 26; ///< pixels above and below the lines: frame, padding and the document's own margin
 
 /// The back of a card, by the suit's name in the headings.
 constexpr std::array<const char*, 4> facedDown{"Wands card, face down", "Cups card, face down",
@@ -71,8 +72,8 @@ void Frmoracle::setUpControls() {
 void Frmoracle::setUpTextPane() {
     widgets::look::asReading(*ui_->TxtEdit);
     const QFontMetrics metrics = ui_->TxtEdit->fontMetrics();
-    ui_->TxtEdit->setMinimumHeight(metrics.lineSpacing() * fewestTextLines);
-    ui_->TxtEdit->setMaximumHeight(metrics.lineSpacing() * textLines);
+    ui_->TxtEdit->setMinimumHeight(metrics.lineSpacing() * fewestTextLines + textRim);
+    ui_->TxtEdit->setMaximumHeight(metrics.lineSpacing() * textLines + textRim);
     ui_->TxtEdit->setMaximumWidth(metrics.averageCharWidth() * textLetters);
     ui_->TxtEdit->hide();
 }

@@ -94,7 +94,7 @@ TEST(ProgramPaths, OnlyWhatIsInsideIsTranslated) {
     for (const char* inRoot : {"/\\bio.dat", "/bio.dat"})
         EXPECT_EQ(platform::fileSystemPath(inRoot, "/"), "/bio.dat")
             << "the path of a card has no separator when the folder is the root";
-    EXPECT_TRUE(platform::takesSubdirectory("/abc") && !platform::takesSubdirectory("/ab"));
+    EXPECT_TRUE(platform::takesSubdirectory("/ab") && !platform::takesSubdirectory("/"));
 }
 
 TEST_F(DiskFilesTest, TheOptionsFileIsFoundUnderItsOtherSpellingAndStaysOne) {

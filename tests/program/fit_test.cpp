@@ -8,8 +8,8 @@
 #include <QFile>
 #include <QLabel>
 #include <QLayout>
-#include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStandardPaths>
@@ -128,6 +128,19 @@ TEST_P(Fit, EveryWindowFitsTheScreenOrScrolls) {
                                                      ".png");
         close(name);
     }
+}
+
+TEST_P(Fit, TheTextOfACardHasThreeLinesAtLeast) {
+    QWidget& window = open("Frmoracle");
+    for (auto* question : window.findChildren<QPlainTextEdit*>()) question->setPlainText("Ann");
+    press(window, "ARButtonAcepBas");
+    Q_EMIT control<widgets::PictureBox>(window, "imgbas").clicked();
+    for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+    const auto& pane = control<QPlainTextEdit>(window, "TxtEdit");
+    ASSERT_TRUE(pane.isVisible());
+    EXPECT_GE(pane.viewport()->height(), 3 * pane.fontMetrics().lineSpacing());
+    expectWhole(window);
+    expectApart(window);
 }
 
 TEST_P(Fit, NothingMovesWhenTheFirstSecondTicks) {

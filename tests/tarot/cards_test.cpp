@@ -61,11 +61,10 @@ TEST(CardCatalogue, PicturesAndTextsHaveTheirNamesAndFolders) {
 }
 
 TEST(CardCatalogue, ARootTakesNoSubdirectoryExceptForTheBacks) {
-    for (const char* deck : {"marsellaone", "marsellaclass", "oldones"})
-        EXPECT_EQ(majorPictureDir({"/ab", deck}), "/ab");
-    EXPECT_EQ(minorPictureDir("/ab"), "/ab");
-    EXPECT_EQ(majorTextDir("/ab"), "/ab");
-    EXPECT_EQ(suitBackPath("/ab"), "/ab\\amenores\\reverso.jpg");
+    for (const char* deck : {"marsellaone", "marsellaclass", "oldones"}) EXPECT_EQ(majorPictureDir({"/", deck}), "/");
+    EXPECT_EQ(minorPictureDir("/"), "/");
+    EXPECT_EQ(majorTextDir("/"), "/");
+    EXPECT_EQ(suitBackPath("/"), "/\\amenores\\reverso.jpg");
 }
 
 // No two texts are of one length, so that the length tells the card as well as that nothing is missing.

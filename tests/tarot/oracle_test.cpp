@@ -58,8 +58,8 @@ TEST_F(Oracle, ThrowsForRealUnlessTheOptionIsEmptyOrObjective) {
 TEST_F(Oracle, DrawsTheSuitsCardFromWordsAndDate) {
     EXPECT_EQ(draw(Suit::batons, "Hola mundo")->drawn.cardPath, files.directory + "\\amenores\\5bastos.jpg");
     EXPECT_EQ(state.currentCardNumber, 5);
-    services.applicationDirectory = "C:\\";
-    EXPECT_EQ(draw(Suit::batons, "Hola mundo")->drawn.cardPath, "C:\\5bastos.jpg") << "a root has no folders";
+    services.applicationDirectory = "/";
+    EXPECT_EQ(draw(Suit::batons, "Hola mundo")->drawn.cardPath, "/5bastos.jpg") << "a root has no folders";
 
     state.readingDate = {2020, 1, 9}; // digits 14: the words alone decide
     for (const auto& [words, picture] : test::Table<int, const char*>{
