@@ -12,7 +12,8 @@ QItemSelectionModel::SelectionFlags ChoiceList::selectionCommand(const QModelInd
 }
 
 void ChoiceList::mousePressEvent(QMouseEvent* event) {
-    pressedOnRow_ = event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid();
+    if (event->button() != Qt::LeftButton) return event->ignore();
+    pressedOnRow_ = indexAt(event->position().toPoint()).isValid();
     QListWidget::mousePressEvent(event);
 }
 

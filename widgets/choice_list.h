@@ -5,8 +5,8 @@
 
 namespace velmoriax::widgets {
 
-/// A list in which one row is chosen and stays chosen: a click below the rows or with Ctrl clears nothing. A row that
-/// the mouse is pressed on and moved away from is given up for the one under the mouse.
+/// A list in which one row is chosen and stays chosen: a click below the rows or with Ctrl clears nothing, and only the
+/// left button chooses. A row that the mouse is pressed on and moved away from is given up for the one under the mouse.
 class ChoiceList : public QListWidget {
     Q_OBJECT
 
